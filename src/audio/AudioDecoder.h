@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+
+struct AVFrame;
+
+// What the decoder knows of the first audio stream of a file once it is open.
+struct AudioStreamInfo
+{
+    uint32_t formatID = 0;  // four-character code of the codec: '.mp3', 'aac ', 'alac', 'flac', 'lpcm', or 0
+    QString codecName;      // FFmpeg's name, for messages
+    QString containerName;  // FFmpeg's demuxer name, for messages
+    double sampleRate = 0;  // Hz, of the decoded audio (never resampled)
+    int channels = 0;
+    double duration = 0;    // seconds, the container's own figure (not the decoded length)
+    int64_t bitRate = 0;    // bits per second, the stream's estimate or the container's
+};
+
+// One decoded buffer, as the codec delivered it. Conversions are done on
+// demand so that each consumer pays only for what it reads.
+class DecodedBuffer
+{
+public:
+    int frames() const;
+    int channels() const;
+    // Start of this buffer in seconds of the stream, when the container says.
+    double startTime() const;
+
+    // Writes frames() samples of channel `channel` as float in -1..1.
+    void channelAsFloat(int channel, float* out) const;
+    // Writes frames() * channels() interleaved signed 16-bit values.
+    void interleavedS16(int16_t* out) const;
+
+private:
+    friend class AudioDecoder;
+    const AVFrame* m_frame = nullptr;
+    double m_timeBase = 0;
+};
+
+// Decodes the first audio stream of a file with FFmpeg. open() probes the
+// container and prepares the codec; readNext() then delivers decoded buffers
+// in order until the end of the stream.
+class AudioDecoder
+{
+public:
+    enum class ReadResult { Buffer, EndOfStream, Error };
+
+    AudioDecoder();
+    ~AudioDecoder();
+    AudioDecoder(const AudioDecoder&) = delete;
+    AudioDecoder& operator=(const AudioDecoder&) = delete;
+
+    // Opens the container and finds its first audio stream. False when the
+    // file cannot be read as audio; errorString() says why.
+    bool open(const QString& path);
+    // Creates the codec for the stream found by open(). Kept apart from open()
+    // so that a file whose container is readable but whose codec is not can be
+    // told apart from a file that is not audio at all.
+    bool openCodec();
+    bool isOpen() const;
+
+    const AudioStreamInfo& info() const;
+    QString errorString() const;
+
+    // Decodes the next buffer. On Buffer, buffer() holds it until the next call.
+    ReadResult readNext();
+    const DecodedBuffer& buffer() const;
+
+    // Number of undecodable packets skipped so far (a damaged stretch of a file
+    // is passed over, as players do, rather than failing the whole file).
+    int skippedPackets() const;
+
+    // The container's duration of a file, in seconds, without decoding it; a
+    // negative value when the file cannot be opened.
+    static double containerDuration(const QString& path);
+
+    // FFmpeg's own messages on stderr: off unless asked for, since a damaged
+    // file would otherwise flood the terminal.
+    static void setLibraryLogging(bool enabled);
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};

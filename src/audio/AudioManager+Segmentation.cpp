@@ -1,0 +1,127 @@
+// Threshold, silence detection, cutting, and the engine's segment list.
+
+#include "audio/AudioManager.h"
+#include "audio/Segmentation.h"
+#include "common/NotificationCenter.h"
+#include "common/NotificationNames.h"
+
+#include <QDebug>
+#include <QVariant>
+
+void AudioManager::calculateAdaptiveThresholds()
+{
+    const AudioCharacteristics& c = m_characteristics;
+    const int level = static_cast<int>(m_sensitivity);
+    m_adaptiveThreshold = Segmentation::adaptiveThreshold(c.averageRMS, c.stdDev, c.maxRMS, level);
+    qInfo("Calculated adaptive threshold: %.6f (sensitivity: %s)",
+          static_cast<double>(m_adaptiveThreshold), Segmentation::sensitivityName(level));
+}
+
+void AudioManager::detectSilenceWithDynamicWindow()
+{
+    const QList<float>& rms = m_characteristics.rmsValues;
+    const QList<Silence> silences =
+        Segmentation::detectSilences(rms, m_adaptiveThreshold, static_cast<int>(m_sensitivity));
+    m_segments =
+        Segmentation::cutAtMidpoints(silences, rms.size(), m_minSegmentDuration, m_duration);
+    printSliencSegment(silences, m_segments);
+}
+
+void AudioManager::printSliencSegment(const QList<Silence>& silences,
+                                      const SegmentList& segments) const
+{
+    qInfo("Found %lu silence segments:", static_cast<unsigned long>(silences.size()));
+    long number = 1;
+    for (const Silence& s : silences) {
+        qInfo("Silence: %ld,start=%.2fs, duration=%.2fs, midPoint=%.2fs", number++,
+              static_cast<double>(s.start), static_cast<double>(s.duration),
+              static_cast<double>(s.midPoint));
+    }
+    qInfo("Created %lu segments using silence midpoints:",
+          static_cast<unsigned long>(segments.size()));
+    number = 1;
+    for (const Segment& s : segments)
+        qInfo("Segment: %ld,start=%.2fs, duration=%.2fs", number++, s.start, s.duration);
+}
+
+void AudioManager::processAudioFile(const QString& path, const Completion& completion)
+{
+    if (!analyzeAudioCharacteristics(path)) {
+        if (completion)
+            completion(false);
+        return;
+    }
+    calculateAdaptiveThresholds();
+    detectSilenceWithDynamicWindow();
+    Segmentation::applyLoadFixups(m_segments, m_duration);
+
+    extractWaveformDataWithCompletionHandler(
+        [this](std::optional<QList<float>> peaks, float, qint64) {
+            if (peaks)
+                m_waveformData = std::move(*peaks);
+        });
+    if (completion)
+        completion(true);
+}
+
+bool AudioManager::updateSegments(const SegmentList& segments)
+{
+    if (segments.isEmpty())
+        return false;
+    // Order and overlap are the caller's business; only an end past the
+    // audio is refused, and an end exactly at the audio's end is accepted.
+    for (const Segment& s : segments) {
+        if (s.start + s.duration > m_duration)
+            return false;
+    }
+    m_segments = segments;
+    m_center.post(Notifications::AudioManagerSegmentsDidUpdate, QVariant::fromValue(this),
+                  {{QStringLiteral("segments"), QVariant::fromValue(m_segments)}});
+    return true;
+}
+
+double AudioManager::getTimestampForIndex(qint64 index) const
+{
+    if (index < 0 || index >= m_segments.size()) {
+        qInfo("Invalid segment index: %ld", static_cast<long>(index));
+        return 0.0;
+    }
+    return m_segments[index].start;
+}
+
+void AudioManager::mergeSegments()
+{
+    if (m_segments.size() < 2)
+        return;
+    SegmentList merged{m_segments.first()};
+    for (qsizetype i = 1; i < m_segments.size(); ++i) {
+        const Segment& current = m_segments[i];
+        Segment& last = merged.last();
+        const float gap = static_cast<float>(current.start) - static_cast<float>(last.end());
+        if (m_minGapDuration > gap) {
+            qInfo("Merged segments: %.2f-%.2f and %.2f-%.2f (gap: %.2f)", last.start, last.end(),
+                  current.start, current.end(), static_cast<double>(gap));
+            last = {last.start, current.end() - last.start};
+        } else {
+            merged.append(current);
+        }
+    }
+    m_segments = merged;
+}
+
+void AudioManager::optimizeSegmentBoundaries()
+{
+    if (m_segments.size() == 1)
+        return;
+    qsizetype i = 0;
+    while (i < m_segments.size() - 1) {
+        const Segment& next = m_segments[i + 1];
+        const double gap = next.start - m_segments[i].end();
+        if (gap < 0.1) {
+            m_segments[i] = {m_segments[i].start, next.end() - m_segments[i].start};
+            m_segments.removeAt(i + 1);
+        } else {
+            ++i;
+        }
+    }
+}

@@ -1,0 +1,61 @@
+#include "audio/AudioManager.h"
+
+#include "common/NotificationCenter.h"
+#include "preferences/Defaults.h"
+#include "preferences/PreferenceKeys.h"
+
+#include <algorithm>
+
+AudioManager& AudioManager::sharedInstance()
+{
+    static AudioManager instance(Defaults::standard(), NotificationCenter::defaultCenter());
+    return instance;
+}
+
+AudioManager::AudioManager(Defaults& defaults, NotificationCenter& center, QObject* parent)
+    : QObject(parent), m_defaults(defaults), m_center(center)
+{
+    qRegisterMetaType<Segment>();
+    qRegisterMetaType<SegmentList>();
+    loadSettings();
+}
+
+AudioManager::~AudioManager() = default;
+
+bool AudioManager::fail(const QString& reason)
+{
+    m_lastError = reason;
+    return false;
+}
+
+void AudioManager::loadSettings()
+{
+    using namespace PreferenceKeys;
+    m_minSegmentDuration = std::max(m_defaults.doubleForKey(MinSegmentDuration), 1.0);
+    // The floor turns a stored 0 ("Low") into 1; kept so that older settings
+    // files segment as they always did.
+    m_sensitivity = static_cast<qint64>(std::max(m_defaults.doubleForKey(Sensitivity), 1.0));
+    m_minGapDuration = std::max(m_defaults.doubleForKey(MinGapDuration), 1.0);
+
+    const double speed = m_defaults.doubleForKey(PlaySpeed);
+    m_currentRate = (speed >= 0.3 && speed <= 3.0) ? static_cast<float>(speed) : 1.0f;
+    const double repeats = m_defaults.doubleForKey(MaxRepeatPlayTimes);
+    m_maxRepeatPlayTimes = (repeats >= 1.0 && repeats <= 9999.0) ? static_cast<float>(repeats) : 20.0f;
+}
+
+void AudioManager::saveSettings(double minSegmentDuration, qint64 sensitivity, double playSpeed)
+{
+    using namespace PreferenceKeys;
+    m_minSegmentDuration = minSegmentDuration;
+    m_sensitivity = sensitivity;
+    m_currentRate = static_cast<float>(playSpeed);
+    m_defaults.setDouble(minSegmentDuration, MinSegmentDuration);
+    m_defaults.setDouble(static_cast<double>(sensitivity), Sensitivity);
+    m_defaults.setDouble(playSpeed, PlaySpeed);
+    m_defaults.synchronize();
+}
+
+void AudioManager::resetToDefaultSettings()
+{
+    saveSettings(1.0, 1, 1.0);
+}

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "audio/Segment.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+class Defaults;
+class NotificationCenter;
+
+// The loudness profile of a file: one RMS value per 20 ms analysis frame,
+// with its mean, extremes and spread.
+struct AudioCharacteristics
+{
+    float averageRMS = 0.0f;
+    float maxRMS = 0.0f;
+    float minRMS = 0.0f;
+    float stdDev = 0.0f;
+    QList<float> rmsValues;
+    float sampleRate = 0.0f;
+    double duration = 0.0;
+};
+
+// The audio engine: analyses a file's loudness, cuts it into segments at the
+// pauses and keeps the waveform peaks. One instance serves the application;
+// tests construct their own.
+//
+// processAudioFile() may run on any thread (the window runs it on a worker
+// and reads analysisProgress() meanwhile); the waveform hand-back is always
+// delivered on the thread the engine lives on. Properties are not to be read
+// while a load is running.
+class AudioManager : public QObject
+{
+    Q_OBJECT
+public:
+    using Completion = std::function<void(bool success)>;
+    // peaks (nullopt on failure), time scale of the track, frames read
+    using WaveformHandler =
+        std::function<void(std::optional<QList<float>> peaks, float timeScale, qint64 frames)>;
+
+    static AudioManager& sharedInstance();
+
+    explicit AudioManager(Defaults& defaults, NotificationCenter& center, QObject* parent = nullptr);
+    ~AudioManager() override;
+
+    // ---- Loading ----
+    // Analyses, segments and hands back the waveform, then calls the completion
+    // (on the calling thread, before returning) with the outcome.
+    void processAudioFile(const QString& path, const Completion& completion);
+    // Fraction of the current analysis done, 0..1; readable from any thread.
+    double analysisProgress() const { return m_progress.load(std::memory_order_relaxed); }
+    // Why the last load failed, in words for the user; empty after a success.
+    QString lastError() const { return m_lastError; }
+
+    // ---- Analysis ----
+    bool analyzeAudioCharacteristics(const QString& path);
+    static float calculateRMSForBuffer(const float* buffer, uint32_t frameCount);
+    static double getAudioDurationFromFile(const QString& path);
+    static QString getAudioFormatByFormatID(uint32_t formatID);
+
+    float sampleRate() const { return m_sampleRate; }
+    QString channelInfo() const { return m_channelInfo; }
+    int channelCount() const { return m_channelCount; }
+    QString audioFormat() const { return m_audioFormat; }
+    qint64 totalSamples() const { return m_totalSamples; }
+    double duration() const { return m_duration; }
+    double getTotalDuration() const { return m_duration; }
+    qint64 bitRate() const { return m_bitRate; }
+    const AudioCharacteristics& audioCharacteristics() const { return m_characteristics; }
+
+    // ---- Segmentation ----
+    void calculateAdaptiveThresholds();
+    float adaptiveThreshold() const { return m_adaptiveThreshold; }
+    void detectSilenceWithDynamicWindow();
+    bool updateSegments(const SegmentList& segments);
+    qsizetype numberOfSegments() const { return m_segments.size(); }
+    double getTimestampForIndex(qint64 index) const;
+    const SegmentList& segments() const { return m_segments; }
+    void mergeSegments();
+    void optimizeSegmentBoundaries();
+    void printSliencSegment(const QList<Silence>& silences, const SegmentList& segments) const;
+
+    // ---- Settings ----
+    void loadSettings();
+    void saveSettings(double minSegmentDuration, qint64 sensitivity, double playSpeed);
+    void resetToDefaultSettings();
+    qint64 sensitivity() const { return m_sensitivity; }
+    void setSensitivity(qint64 value) { m_sensitivity = value; }
+    double minSegmentDuration() const { return m_minSegmentDuration; }
+    void setMinSegmentDuration(double seconds) { m_minSegmentDuration = seconds; }
+    double minGapDuration() const { return m_minGapDuration; }
+    float currentRate() const { return m_currentRate; }
+    float maxRepeatPlayTimes() const { return m_maxRepeatPlayTimes; }
+
+    // ---- Waveform ----
+    void extractWaveformDataWithCompletionHandler(const WaveformHandler& handler);
+    const QList<float>& waveformData() const { return m_waveformData; }
+
+private:
+    bool fail(const QString& reason);
+
+    Defaults& m_defaults;
+    NotificationCenter& m_center;
+
+    // Analysis results.
+    float m_sampleRate = 0.0f;
+    QString m_channelInfo;
+    int m_channelCount = 0;
+    QString m_audioFormat;
+    qint64 m_totalSamples = 0;
+    double m_duration = 0.0;
+    qint64 m_bitRate = 0;
+    AudioCharacteristics m_characteristics;
+
+    // Peaks collected in the analysis pass, handed out by the waveform step.
+    struct DecodedWaveform
+    {
+        QList<float> peaks;
+        float timeScale = 0.0f;
+        qint64 frames = 0;
+        qint64 bitRate = 0;
+    };
+    std::optional<DecodedWaveform> m_decodedWaveform;
+    QList<float> m_waveformData;
+
+    // Segmentation.
+    float m_adaptiveThreshold = 0.0f;
+    SegmentList m_segments;
+    qint64 m_sensitivity = 1;
+    double m_minSegmentDuration = 1.0;
+    double m_minGapDuration = 1.0;
+
+    // Playback settings read with the others.
+    float m_currentRate = 1.0f;
+    float m_maxRepeatPlayTimes = 20.0f;
+
+    std::atomic<double> m_progress{0.0};
+    QString m_lastError;
+};

@@ -1,0 +1,222 @@
+// kelmora-cli analyze / split: load a file into the engine exactly as the
+// window does and print what it found.
+
+#include "audio/AudioDecoder.h"
+#include "audio/AudioManager.h"
+#include "audio/Segmentation.h"
+#include "cli/Commands.h"
+#include "cli/Json.h"
+#include "preferences/DefaultPreferences.h"
+#include "preferences/Defaults.h"
+#include "transcript/LrcLine.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+bool g_verbose = false;
+
+void quietMessageHandler(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    if (type == QtInfoMsg || type == QtDebugMsg) {
+        if (!g_verbose)
+            return;
+    }
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+struct LoadOptions
+{
+    QString path;
+    std::optional<double> minSegmentDuration;
+    std::optional<int> sensitivity;
+    bool rms = false;
+};
+
+// Parses the options shared by analyze and split. Returns an exit code when
+// the command should end here (help or a usage error).
+std::optional<int> parseLoadOptions(const QString& command, const QString& description,
+                                    bool withRms, const QStringList& args, LoadOptions& out)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(description);
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
+    const QCommandLineOption minSegment(
+        QStringLiteral("min-segment-duration"),
+        QStringLiteral("shortest segment to cut, in seconds (default: the stored preference)"),
+        QStringLiteral("S"));
+    const QCommandLineOption sensitivity(
+        QStringLiteral("sensitivity"),
+        QStringLiteral("silence sensitivity, 0 low, 1 medium, 2 high (default: the stored preference)"),
+        QStringLiteral("N"));
+    const QCommandLineOption rms(QStringLiteral("rms"),
+                                 QStringLiteral("include every 20 ms loudness value"));
+    const QCommandLineOption verbose(QStringLiteral("verbose"),
+                                     QStringLiteral("print the engine's diagnostic log on stderr"));
+    parser.addOption(minSegment);
+    parser.addOption(sensitivity);
+    if (withRms)
+        parser.addOption(rms);
+    parser.addOption(verbose);
+
+    if (!parser.parse(QStringList{QStringLiteral("kelmora-cli ") + command} + args)) {
+        Cli::printError(parser.errorText());
+        return Cli::UsageError;
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return Cli::Success;
+    }
+    const QStringList positional = parser.positionalArguments();
+    if (positional.size() != 1) {
+        Cli::printError(QStringLiteral("%1 takes exactly one audio file").arg(command));
+        return Cli::UsageError;
+    }
+    out.path = positional.first();
+    if (parser.isSet(minSegment)) {
+        bool ok = false;
+        const double value = parser.value(minSegment).toDouble(&ok);
+        if (!ok || !(value > 0.0)) {
+            Cli::printError(QStringLiteral("--min-segment-duration takes a positive number of seconds"));
+            return Cli::UsageError;
+        }
+        out.minSegmentDuration = value;
+    }
+    if (parser.isSet(sensitivity)) {
+        bool ok = false;
+        const int value = parser.value(sensitivity).toInt(&ok);
+        if (!ok || value < 0 || value > 2) {
+            Cli::printError(QStringLiteral("--sensitivity takes 0, 1 or 2"));
+            return Cli::UsageError;
+        }
+        out.sensitivity = value;
+    }
+    out.rms = withRms && parser.isSet(rms);
+    g_verbose = parser.isSet(verbose);
+    return std::nullopt;
+}
+
+// Loads the file into the shared engine with the user's stored settings,
+// overridden by the options. Returns an exit code on failure.
+std::optional<int> load(const LoadOptions& options)
+{
+    qInstallMessageHandler(quietMessageHandler);
+    AudioDecoder::setLibraryLogging(g_verbose);
+    const QFileInfo file(options.path);
+    if (!file.exists()) {
+        Cli::printError(QStringLiteral("%1: no such file").arg(options.path));
+        return Cli::Failure;
+    }
+    if (!file.isFile()) {
+        Cli::printError(QStringLiteral("%1: not a file").arg(options.path));
+        return Cli::Failure;
+    }
+
+    regDefaultPreference(Defaults::standard());
+    AudioManager& engine = AudioManager::sharedInstance();
+    if (options.minSegmentDuration)
+        engine.setMinSegmentDuration(*options.minSegmentDuration);
+    if (options.sensitivity)
+        engine.setSensitivity(*options.sensitivity);
+
+    bool loaded = false;
+    engine.processAudioFile(options.path, [&loaded](bool success) { loaded = success; });
+    if (!loaded) {
+        Cli::printError(QStringLiteral("%1: %2").arg(options.path, engine.lastError()));
+        return Cli::Failure;
+    }
+    // The waveform hand-back is queued on the event loop, as for the window.
+    QCoreApplication::processEvents();
+    return std::nullopt;
+}
+
+Json segmentsJson(const SegmentList& segments)
+{
+    Json::Array out;
+    out.reserve(static_cast<std::size_t>(segments.size()));
+    for (const Segment& s : segments)
+        out.push_back(Json::Object{{"start", s.start}, {"duration", s.duration}});
+    return out;
+}
+
+} // namespace
+
+namespace Cli {
+
+void printError(const QString& message)
+{
+    std::fprintf(stderr, "kelmora-cli: %s\n", qPrintable(message));
+}
+
+int analyze(const QStringList& args)
+{
+    LoadOptions options;
+    if (auto code = parseLoadOptions(
+            QStringLiteral("analyze"),
+            QStringLiteral("Prints the loudness profile, silences and segments of an audio file as JSON."),
+            true, args, options))
+        return *code;
+    if (auto code = load(options))
+        return *code;
+
+    const AudioManager& engine = AudioManager::sharedInstance();
+    const AudioCharacteristics& c = engine.audioCharacteristics();
+    const QList<Silence> silences = Segmentation::detectSilences(
+        c.rmsValues, engine.adaptiveThreshold(), static_cast<int>(engine.sensitivity()));
+
+    Json::Array silenceList;
+    for (const Silence& s : silences)
+        silenceList.push_back(
+            Json::Object{{"start", s.start}, {"duration", s.duration}, {"midPoint", s.midPoint}});
+
+    Json::Object out{
+        {"audioFormat", engine.audioFormat()},
+        {"sampleRate", engine.sampleRate()},
+        {"channels", engine.channelCount()},
+        {"channelInfo", engine.channelInfo()},
+        {"totalSamples", engine.totalSamples()},
+        {"duration", engine.duration()},
+        {"bitRate", engine.bitRate()},
+        {"averageRMS", c.averageRMS},
+        {"maxRMS", c.maxRMS},
+        {"minRMS", c.minRMS},
+        {"stdDev", c.stdDev},
+        {"rmsCount", c.rmsValues.size()},
+    };
+    if (options.rms) {
+        Json::Array values(c.rmsValues.cbegin(), c.rmsValues.cend());
+        out.emplace_back("rmsValues", std::move(values));
+    }
+    out.emplace_back("threshold", engine.adaptiveThreshold());
+    out.emplace_back("silences", std::move(silenceList));
+    out.emplace_back("segments", segmentsJson(engine.segments()));
+    out.emplace_back("waveformPoints", engine.waveformData().size());
+
+    const std::string text = Json(std::move(out)).dump();
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    return Success;
+}
+
+int split(const QStringList& args)
+{
+    LoadOptions options;
+    if (auto code = parseLoadOptions(
+            QStringLiteral("split"),
+            QStringLiteral("Prints one LRC time stamp line per segment of an audio file."), false,
+            args, options))
+        return *code;
+    if (auto code = load(options))
+        return *code;
+    const AudioManager& engine = AudioManager::sharedInstance();
+    for (qsizetype i = 0; i < engine.numberOfSegments(); ++i)
+        std::printf("%s\n", qPrintable(Lrc::formatLine(engine.getTimestampForIndex(i), QString())));
+    return Success;
+}
+
+} // namespace Cli

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+
+// Each subcommand receives its own arguments (without the program and command
+// names) and returns the process exit code.
+namespace Cli {
+
+enum ExitCode { Success = 0, Failure = 1, UsageError = 2 };
+
+int analyze(const QStringList& args);
+int split(const QStringList& args);
+
+// Prints "kelmora-cli: message" on stderr.
+void printError(const QString& message);
+
+} // namespace Cli
