@@ -298,6 +298,7 @@ bool AudioDecoder::open(const QString& path)
         info.duration = double(stream->duration) * av_q2d(stream->time_base);
     else
         info.duration = 0;
+    info.durationEstimated = raw->duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
     info.bitRate = par->bit_rate > 0 ? par->bit_rate : std::max<int64_t>(raw->bit_rate, 0);
     d->buffer.m_timeBase = av_q2d(stream->time_base);
     return true;

@@ -16,6 +16,7 @@ struct AudioStreamInfo
     double sampleRate = 0;  // Hz, of the decoded audio (never resampled)
     int channels = 0;
     double duration = 0;    // seconds, the container's own figure (not the decoded length)
+    bool durationEstimated = false; // guessed from the bit rate, not stated by the file
     int64_t bitRate = 0;    // bits per second, the stream's estimate or the container's
 };
 

@@ -8,6 +8,7 @@
 #include "audio/WaveformPeaks.h"
 
 #include <QDebug>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <vector>
@@ -50,7 +51,9 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
         // An unreadable file has no samples: that is how it is reported.
         m_sampleRate = 0.0f;
         qInfo("audio samples is 0");
-        return fail(QStringLiteral("not a readable audio file (%1)").arg(decoder.errorString()));
+        if (QFileInfo(path).size() == 0)
+            return fail(QStringLiteral("the file is empty"));
+        return fail(QStringLiteral("not an audio file Kelmora can read (%1)").arg(decoder.errorString()));
     }
     const AudioStreamInfo& info = decoder.info();
     m_sampleRate = static_cast<float>(info.sampleRate);
@@ -97,6 +100,18 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
         qInfo("audio samples is 0");
         return fail(QStringLiteral("the file holds no audio samples"));
     }
+    // A file that stops well before the length its header states has been cut
+    // short (an interrupted download, a damaged copy): refuse it rather than
+    // cut segments that the header and the audio disagree on.
+    const double decodedSeconds = static_cast<double>(frames) / info.sampleRate;
+    if (!info.durationEstimated &&
+        decodedSeconds < info.duration - std::max(0.25, 0.01 * info.duration)) {
+        const QString reason = QStringLiteral("the audio ends at %1 s although the file states %2 s")
+                                   .arg(decodedSeconds, 0, 'f', 1)
+                                   .arg(info.duration, 0, 'f', 1);
+        qInfo("Error reading audio file: %s", qPrintable(reason));
+        return fail(reason + QStringLiteral("; it may be truncated or damaged"));
+    }
     loudness.finish();
 
     AudioCharacteristics characteristics;
@@ -108,8 +123,11 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     characteristics.stdDev = stats.stdDev;
 
     // The container's duration is what "duration" means, whatever the decoded
-    // length says; only a container without one falls back to the frames.
-    m_duration = info.duration > 0.0 ? info.duration : static_cast<double>(frames) / info.sampleRate;
+    // length says (AAC padding, untrimmed MP3 delay). Where the container states
+    // none and FFmpeg only guessed it from the bit rate (ADTS AAC, MP3 without a
+    // Xing header), the guess can be off by a third, so the decoded length is used.
+    const bool stated = info.duration > 0.0 && !info.durationEstimated;
+    m_duration = stated ? info.duration : decodedSeconds;
     if (0.1 > m_duration) {
         qInfo("Error audio duration");
         return fail(QStringLiteral("the audio lasts less than 0.1 s"));

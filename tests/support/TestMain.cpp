@@ -1,0 +1,13 @@
+// Every test binary gets one application object, so that queued hand-backs
+// and timers behave as they do in the application.
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    QCoreApplication app(argc, argv);
+    return RUN_ALL_TESTS();
+}
