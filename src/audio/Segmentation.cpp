@@ -73,11 +73,13 @@ QList<Silence> detectSilences(const QList<float>& rmsValues, float threshold, in
         }
     }
     if (inSilence) {
-        // The end of the file needs far less quiet than its interior.
+        // The end of the file needs far less quiet than its interior. This
+        // length is reckoned in 64-bit, so that five frames make exactly 0.1 s
+        // (in 32-bit they fall just short of it).
         const qsizetype len = n - start;
-        const float d = static_cast<float>(len) * kFrameDuration;
-        if (static_cast<double>(d) >= kShortestTrailingSilence) {
-            silences.append({static_cast<float>(start) * kFrameDuration, d,
+        const double d = static_cast<double>(len) * 0.02;
+        if (d >= kShortestTrailingSilence) {
+            silences.append({static_cast<float>(start) * kFrameDuration, static_cast<float>(d),
                              static_cast<float>(len / 2 + start) * kFrameDuration});
         }
     }

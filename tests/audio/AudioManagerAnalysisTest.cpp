@@ -1,0 +1,220 @@
+// Loading real files made by the test set-up through the engine's one entry
+// point, as the window does.
+
+#include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "support/TestSupport.h"
+
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using TestSupport::fixture;
+
+namespace {
+
+class AudioManagerAnalysis : public ::testing::Test
+{
+protected:
+    bool load(const QString& name)
+    {
+        bool result = false;
+        bool called = false;
+        engine.processAudioFile(fixture(name), [&](bool ok) {
+            called = true;
+            result = ok;
+        });
+        EXPECT_TRUE(called) << "the completion runs before processAudioFile returns";
+        return result;
+    }
+
+    TestSupport::TempDefaults defaults;
+    NotificationCenter center;
+    AudioManager engine{defaults.store(), center};
+};
+
+} // namespace
+
+TEST_F(AudioManagerAnalysis, SameSpeechInEveryFormatCutsTheSameSegments)
+{
+    ASSERT_TRUE(load("speech.wav"));
+    const SegmentList reference = engine.segments();
+    ASSERT_EQ(reference.size(), 5);
+
+    for (const char* file : {"speech.mp3", "speech_vbr.mp3", "speech_aac.m4a", "speech.m4r",
+                             "speech.aac", "speech_alac.m4a", "speech.flac", "speech_24bit.flac",
+                             "speech.aiff", "speech.aif", "speech.caf", "speech_float.wav",
+                             "speech_stereo.wav", "speech_6ch.wav", "speech_48k.wav"}) {
+        ASSERT_TRUE(load(file)) << file << ": " << qPrintable(engine.lastError());
+        const SegmentList& segments = engine.segments();
+        ASSERT_EQ(segments.size(), reference.size()) << file;
+        for (qsizetype i = 0; i < segments.size(); ++i)
+            EXPECT_NEAR(segments[i].start, reference[i].start, 0.02 + 1e-6) << file << " #" << i;
+        EXPECT_EQ(engine.analysisProgress(), 1.0) << file;
+    }
+}
+
+TEST_F(AudioManagerAnalysis, DescribesTheLoadedFile)
+{
+    ASSERT_TRUE(load("speech_stereo.wav"));
+    EXPECT_EQ(engine.channelInfo(), "Stereo");
+    EXPECT_EQ(engine.channelCount(), 2);
+    EXPECT_EQ(engine.audioFormat(), "WAV");
+    EXPECT_EQ(engine.sampleRate(), 44100.0f);
+    EXPECT_NEAR(engine.duration(), 14.357, 0.001);
+    EXPECT_EQ(engine.getTotalDuration(), engine.duration());
+    EXPECT_EQ(engine.audioCharacteristics().duration, engine.duration());
+    EXPECT_EQ(engine.audioCharacteristics().sampleRate, 44100.0f);
+    const qint64 frames = engine.totalSamples();
+    EXPECT_NEAR(double(frames) / 44100.0, engine.duration(), 0.001);
+    // One RMS value per 20 ms, the last over what is left.
+    EXPECT_EQ(engine.audioCharacteristics().rmsValues.size(), (frames + 881) / 882);
+
+    ASSERT_TRUE(load("speech_6ch.wav"));
+    EXPECT_EQ(engine.channelInfo(), "Mono"); // only exactly two channels are "Stereo"
+    EXPECT_EQ(engine.channelCount(), 6);
+
+    ASSERT_TRUE(load("speech_8k.wav"));
+    EXPECT_EQ(engine.sampleRate(), 8000.0f);
+    EXPECT_EQ(engine.audioFormat(), "WAV");
+
+    ASSERT_TRUE(load("speech_alaw.wav"));
+    EXPECT_EQ(engine.audioFormat(), "Unknown");
+}
+
+TEST_F(AudioManagerAnalysis, ShortLastFrameIsMeasuredOverItsOwnLength)
+{
+    ASSERT_TRUE(load("tone_44673.wav")); // 50 frames of 882 and one of 573
+    const QList<float>& rms = engine.audioCharacteristics().rmsValues;
+    ASSERT_EQ(rms.size(), 51);
+    EXPECT_EQ(engine.totalSamples(), 44673);
+    // A steady tone: a shorter frame of it is about as loud as a full one.
+    EXPECT_NEAR(rms.last(), rms[10], 0.01);
+    EXPECT_GT(rms[10], 0.05f);
+}
+
+TEST_F(AudioManagerAnalysis, SilenceThroughoutIsOneSegment)
+{
+    ASSERT_TRUE(load("silent.wav"));
+    const AudioCharacteristics& c = engine.audioCharacteristics();
+    EXPECT_TRUE(std::all_of(c.rmsValues.begin(), c.rmsValues.end(), [](float v) { return v == 0.0f; }));
+    EXPECT_EQ(c.averageRMS, 0.0f);
+    EXPECT_EQ(c.stdDev, 0.0f);
+    EXPECT_EQ(c.minRMS, 0.0f);
+    EXPECT_EQ(c.maxRMS, 0.0f);
+    EXPECT_EQ(engine.adaptiveThreshold(), 0.0f);
+    ASSERT_EQ(engine.segments().size(), 1);
+    EXPECT_EQ(engine.segments()[0], (Segment{0.0, 2.0}));
+}
+
+TEST_F(AudioManagerAnalysis, OnlyTheLeftChannelIsMeasured)
+{
+    ASSERT_TRUE(load("left_silent.wav"));
+    EXPECT_EQ(engine.audioCharacteristics().maxRMS, 0.0f);
+    EXPECT_EQ(engine.segments().size(), 1);
+    EXPECT_EQ(engine.channelInfo(), "Stereo");
+}
+
+TEST_F(AudioManagerAnalysis, BadFilesFailWithTheirLogLineAndKeepThePreviousLoad)
+{
+    ASSERT_TRUE(load("speech.wav"));
+    const SegmentList before = engine.segments();
+    const struct
+    {
+        const char* file;
+        const char* logLine;
+    } cases[] = {
+        {"empty.mp3", "audio samples is 0"},
+        {"text.mp3", "audio samples is 0"},
+        {"random.flac", "audio samples is 0"},
+        {"broken_header.wav", "audio samples is 0"},
+        {"no-such-file.wav", "audio samples is 0"},
+        {"short_0.05s.wav", "Error audio duration"},
+        {"tone_250.wav", "Error audio duration"},
+    };
+    for (const auto& c : cases) {
+        TestSupport::LogCapture log;
+        EXPECT_FALSE(load(c.file)) << c.file;
+        EXPECT_TRUE(log.contains(c.logLine)) << c.file << ": " << qPrintable(log.lines().join(" | "));
+        EXPECT_FALSE(engine.lastError().isEmpty()) << c.file;
+        EXPECT_EQ(engine.segments(), before) << c.file;
+    }
+
+    TestSupport::LogCapture log;
+    EXPECT_FALSE(load("truncated.mp3"));
+    EXPECT_TRUE(log.lines().join('\n').contains("Error reading audio file: "));
+    EXPECT_TRUE(engine.lastError().contains("truncated"));
+}
+
+TEST_F(AudioManagerAnalysis, TooShortFileStillRecordsItsDuration)
+{
+    EXPECT_FALSE(load("short_0.05s.wav"));
+    EXPECT_NEAR(engine.duration(), 0.05, 1e-6);
+    EXPECT_EQ(engine.sampleRate(), 44100.0f);
+}
+
+TEST_F(AudioManagerAnalysis, WaveformArrivesOnTheEventLoopAfterTheCompletion)
+{
+    ASSERT_TRUE(load("speech.wav"));
+    EXPECT_TRUE(engine.waveformData().isEmpty());
+    TestSupport::processEvents();
+    const QList<float>& peaks = engine.waveformData();
+    ASSERT_GT(peaks.size(), 6000);
+    EXPECT_EQ(*std::max_element(peaks.begin(), peaks.end()), 1.0f);
+    EXPECT_GE(*std::min_element(peaks.begin(), peaks.end()), 0.0f);
+    EXPECT_NEAR(double(engine.bitRate()), 705600.0, 1.0);
+
+    // A silent file's peaks are zeros, not divided by zero.
+    ASSERT_TRUE(load("silent.wav"));
+    TestSupport::processEvents();
+    ASSERT_FALSE(engine.waveformData().isEmpty());
+    EXPECT_TRUE(std::all_of(engine.waveformData().begin(), engine.waveformData().end(),
+                            [](float v) { return v == 0.0f; }));
+}
+
+TEST_F(AudioManagerAnalysis, WaveformHandlerGetsPeaksTimeScaleAndFrames)
+{
+    bool called = false;
+    engine.extractWaveformDataWithCompletionHandler(
+        [&](std::optional<QList<float>> peaks, float scale, qint64 frames) {
+            called = true;
+            EXPECT_FALSE(peaks.has_value());
+            EXPECT_EQ(scale, 0.0f);
+            EXPECT_EQ(frames, 0);
+        });
+    EXPECT_TRUE(called) << "without a loaded file the handler runs at once";
+
+    ASSERT_TRUE(load("speech_stereo.wav"));
+    std::optional<QList<float>> got;
+    float timeScale = 0;
+    qint64 frames = 0;
+    engine.extractWaveformDataWithCompletionHandler(
+        [&](std::optional<QList<float>> peaks, float scale, qint64 n) {
+            got = std::move(peaks);
+            timeScale = scale;
+            frames = n;
+        });
+    EXPECT_FALSE(got.has_value()) << "delivered later, on the event loop";
+    TestSupport::processEvents();
+    ASSERT_TRUE(got.has_value());
+    EXPECT_EQ(timeScale, 44100.0f);
+    EXPECT_EQ(frames, engine.totalSamples());
+}
+
+TEST_F(AudioManagerAnalysis, LogsTheThresholdAndTheListing)
+{
+    TestSupport::LogCapture log;
+    ASSERT_TRUE(load("speech.wav"));
+    const QStringList& lines = log.lines();
+    ASSERT_FALSE(lines.isEmpty());
+    EXPECT_TRUE(lines[0].startsWith("Calculated adaptive threshold: 0.0"));
+    EXPECT_TRUE(lines[0].endsWith(" (sensitivity: Medium)"));
+    EXPECT_TRUE(lines.contains("Found 5 silence segments:"));
+    EXPECT_TRUE(lines.contains("Created 5 segments using silence midpoints:"));
+    const auto silenceLines = lines.filter(QRegularExpression(
+        R"(^Silence: [1-5],start=\d+\.\d\ds, duration=\d+\.\d\ds, midPoint=\d+\.\d\ds$)"));
+    EXPECT_EQ(silenceLines.size(), 5);
+    EXPECT_TRUE(lines.contains("Segment: 1,start=0.00s, duration=2.00s"));
+}

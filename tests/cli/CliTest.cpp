@@ -1,0 +1,191 @@
+// kelmora-cli as a script or a person runs it: a separate process, real
+// files, its own settings folder.
+
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using TestSupport::fixture;
+
+namespace {
+
+struct Result
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+class Cli : public ::testing::Test
+{
+protected:
+    Result run(const QStringList& args)
+    {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("XDG_CONFIG_HOME", config.path()); // never the developer's own settings
+        p.setProcessEnvironment(env);
+        p.start(TestSupport::cliPath(), args);
+        EXPECT_TRUE(p.waitForFinished(60000)) << qPrintable(args.join(' '));
+        EXPECT_EQ(p.exitStatus(), QProcess::NormalExit) << "crashed: " << qPrintable(args.join(' '));
+        return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
+    }
+
+    QJsonObject analyze(const QStringList& args)
+    {
+        const Result r = run(QStringList{"analyze"} + args);
+        EXPECT_EQ(r.exitCode, 0) << r.err.constData();
+        QJsonParseError error;
+        const QJsonDocument doc = QJsonDocument::fromJson(r.out, &error);
+        EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
+        return doc.object();
+    }
+
+    void storeSetting(const QString& line)
+    {
+        QDir(config.path()).mkpath("Kelmora");
+        QFile f(config.filePath("Kelmora/Kelmora.ini"));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(("[General]\n" + line + "\n").toUtf8());
+    }
+
+    QTemporaryDir config;
+};
+
+QList<double> starts(const QJsonObject& analysis)
+{
+    QList<double> out;
+    for (const QJsonValue& v : analysis.value("segments").toArray())
+        out.append(v.toObject().value("start").toDouble());
+    return out;
+}
+
+} // namespace
+
+TEST_F(Cli, AnalyzePrintsEveryKeyInItsOrder)
+{
+    const Result r = run({"analyze", fixture("speech.mp3")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.constData();
+    EXPECT_TRUE(r.err.isEmpty()) << "diagnostics stay quiet without --verbose: " << r.err.constData();
+    const QStringList keys{"audioFormat", "sampleRate", "channels",  "channelInfo", "totalSamples",
+                           "duration",    "bitRate",    "averageRMS", "maxRMS",     "minRMS",
+                           "stdDev",      "rmsCount",   "threshold", "silences",    "segments",
+                           "waveformPoints"};
+    qsizetype at = 0;
+    for (const QString& key : keys) {
+        const qsizetype found = r.out.indexOf("\n  \"" + key.toUtf8() + "\":");
+        EXPECT_GT(found, at) << qPrintable(key);
+        at = found;
+    }
+    const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+    EXPECT_EQ(o.keys().size(), keys.size());
+    EXPECT_FALSE(o.contains("rmsValues"));
+    EXPECT_EQ(o.value("channels").toInt(), 1);
+    EXPECT_EQ(o.value("channelInfo").toString(), "Mono");
+    EXPECT_EQ(o.value("sampleRate").toDouble(), 44100.0);
+    EXPECT_EQ(o.value("bitRate").toInteger(), 128000);
+    EXPECT_GT(o.value("waveformPoints").toInt(), 6000);
+    const QJsonObject silence = o.value("silences").toArray().first().toObject();
+    EXPECT_TRUE(silence.contains("start") && silence.contains("duration") && silence.contains("midPoint"));
+
+    const QJsonObject withRms = analyze({fixture("speech.mp3"), "--rms"});
+    EXPECT_EQ(withRms.value("rmsValues").toArray().size(), withRms.value("rmsCount").toInt());
+    EXPECT_GT(withRms.value("rmsCount").toInt(), 700);
+}
+
+TEST_F(Cli, SameSpeechAgreesAcrossFormatsToOneFrame)
+{
+    const QJsonObject wav = analyze({fixture("speech.wav")});
+    EXPECT_EQ(wav.value("audioFormat").toString(), "WAV");
+    const QList<double> reference = starts(wav);
+    ASSERT_EQ(reference.size(), 5);
+    const std::pair<const char*, const char*> cases[] = {
+        {"speech.mp3", "MP3"}, {"speech_aac.m4a", "AAC"}, {"speech_alac.m4a", "M4A"}};
+    for (const auto& [file, format] : cases) {
+        const QJsonObject o = analyze({fixture(file)});
+        EXPECT_EQ(o.value("audioFormat").toString(), format);
+        const QList<double> s = starts(o);
+        ASSERT_EQ(s.size(), reference.size()) << file;
+        for (qsizetype i = 0; i < s.size(); ++i)
+            EXPECT_NEAR(s[i], reference[i], 0.02 + 1e-6) << file << " #" << i;
+    }
+}
+
+TEST_F(Cli, SplitPrintsOneStampPerSegment)
+{
+    const Result r = run({"split", fixture("speech.flac")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.constData();
+    const QStringList lines = QString::fromUtf8(r.out).split('\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 5);
+    EXPECT_EQ(lines[0], "[00:00.000]");
+    const QRegularExpression stamp(R"(^\[\d\d:\d\d\.\d\d\d\]$)");
+    for (const QString& line : lines)
+        EXPECT_TRUE(stamp.match(line).hasMatch()) << qPrintable(line);
+}
+
+TEST_F(Cli, UnreadableFilesExitOneWithOneLine)
+{
+    for (const char* file : {"empty.mp3", "random.flac", "text.mp3", "truncated.mp3",
+                             "broken_header.wav", "short_0.05s.wav", "no-such-file.mp3"}) {
+        for (const char* command : {"analyze", "split"}) {
+            const Result r = run({command, fixture(file)});
+            EXPECT_EQ(r.exitCode, 1) << command << " " << file;
+            EXPECT_TRUE(r.out.isEmpty()) << file;
+            const QList<QByteArray> lines = r.err.trimmed().split('\n');
+            EXPECT_EQ(lines.size(), 1) << file << ": " << r.err.constData();
+            EXPECT_TRUE(r.err.startsWith("kelmora-cli: ")) << r.err.constData();
+            EXPECT_TRUE(r.err.contains(file)) << r.err.constData();
+        }
+    }
+    EXPECT_TRUE(run({"analyze", fixture("empty.mp3")}).err.contains("empty"));
+    EXPECT_TRUE(run({"analyze", fixture("truncated.mp3")}).err.contains("truncated"));
+    EXPECT_TRUE(run({"analyze", fixture("short_0.05s.wav")}).err.contains("0.1 s"));
+    EXPECT_EQ(run({"analyze", QDir::tempPath()}).exitCode, 1);
+}
+
+TEST_F(Cli, UsageErrorsExitTwoAndHelpExitsZero)
+{
+    EXPECT_EQ(run({}).exitCode, 2);
+    EXPECT_EQ(run({"frobnicate"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", fixture("speech.wav"), fixture("speech.wav")}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--sensitivity", "5"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--min-segment-duration", "soon"}).exitCode, 2);
+    EXPECT_EQ(run({"split", fixture("speech.wav"), "--rms"}).exitCode, 2);
+
+    const Result help = run({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_TRUE(help.out.contains("analyze") && help.out.contains("split"));
+    const Result analyzeHelp = run({"analyze", "--help"});
+    EXPECT_EQ(analyzeHelp.exitCode, 0);
+    EXPECT_TRUE(analyzeHelp.out.contains("--min-segment-duration"));
+}
+
+TEST_F(Cli, StoredPreferencesApplyUnlessAnOptionOverridesThem)
+{
+    storeSetting("kminSegmentDuration=4");
+    EXPECT_LT(starts(analyze({fixture("speech.wav")})).size(), 5);
+    EXPECT_EQ(starts(analyze({fixture("speech.wav"), "--min-segment-duration", "1"})).size(), 5);
+
+    // A value the engine cannot use falls back as the application's would.
+    storeSetting("kminSegmentDuration=nonsense\nksensitivity=@ByteArray(x)");
+    const QJsonObject o = analyze({fixture("speech.wav")});
+    EXPECT_EQ(starts(o).size(), 5);
+}
+
+TEST_F(Cli, VerboseShowsTheEngineLog)
+{
+    const Result r = run({"analyze", fixture("speech.wav"), "--verbose"});
+    ASSERT_EQ(r.exitCode, 0);
+    EXPECT_TRUE(r.err.contains("Calculated adaptive threshold: "));
+    EXPECT_TRUE(r.err.contains("Found 5 silence segments:"));
+}
