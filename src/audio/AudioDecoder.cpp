@@ -106,10 +106,12 @@ template <> float toFloat(int64_t v) { return float(double(v) * (1.0 / 922337203
 template <> float toFloat(float v) { return v; }
 template <> float toFloat(double v) { return float(v); }
 
-inline int16_t floatToS16(double v)
+// Rounds half away from zero after clamping in floating point: plain
+// arithmetic the compiler can vectorise, unlike a call to lrint per sample.
+inline int16_t floatToS16(float v)
 {
-    const long r = std::lrint(v * 32768.0);
-    return int16_t(std::clamp<long>(r, -32768, 32767));
+    const float scaled = std::clamp(v * 32768.0f, -32768.0f, 32767.0f);
+    return int16_t(scaled + (scaled >= 0.0f ? 0.5f : -0.5f));
 }
 
 template <typename T> int16_t toS16(T v);
@@ -118,7 +120,7 @@ template <> int16_t toS16(int16_t v) { return v; }
 template <> int16_t toS16(int32_t v) { return int16_t(v >> 16); }
 template <> int16_t toS16(int64_t v) { return int16_t(v >> 48); }
 template <> int16_t toS16(float v) { return floatToS16(v); }
-template <> int16_t toS16(double v) { return floatToS16(v); }
+template <> int16_t toS16(double v) { return floatToS16(float(v)); }
 
 template <typename T>
 void channelAsFloatT(const AVFrame* f, bool planar, int channel, float* out)
@@ -204,6 +206,14 @@ void DecodedBuffer::channelAsFloat(int channel, float* out) const
         using T = std::remove_pointer_t<decltype(tag)>;
         channelAsFloatT<T>(m_frame, planar, channel, out);
     });
+}
+
+const float* DecodedBuffer::channelFloatData(int channel) const
+{
+    const auto fmt = AVSampleFormat(m_frame->format);
+    if (fmt == AV_SAMPLE_FMT_FLTP || (fmt == AV_SAMPLE_FMT_FLT && channels() == 1))
+        return reinterpret_cast<const float*>(m_frame->extended_data[channel]);
+    return nullptr;
 }
 
 void DecodedBuffer::interleavedS16(int16_t* out) const

@@ -32,6 +32,9 @@ public:
 
     // Writes frames() samples of channel `channel` as float in -1..1.
     void channelAsFloat(int channel, float* out) const;
+    // The decoder's own float samples of one channel when it delivers them
+    // unconverted and contiguous (most lossy codecs do), else null.
+    const float* channelFloatData(int channel) const;
     // Writes frames() * channels() interleaved signed 16-bit values.
     void interleavedS16(int16_t* out) const;
 

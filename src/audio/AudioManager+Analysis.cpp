@@ -82,9 +82,13 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
         }
         const DecodedBuffer& buffer = decoder.buffer();
         const auto n = static_cast<std::size_t>(buffer.frames());
-        channel0.resize(n);
-        buffer.channelAsFloat(0, channel0.data());
-        loudness.add(channel0.data(), n);
+        const float* samples = buffer.channelFloatData(0);
+        if (!samples) {
+            channel0.resize(n);
+            buffer.channelAsFloat(0, channel0.data());
+            samples = channel0.data();
+        }
+        loudness.add(samples, n);
 
         interleaved.resize(n * static_cast<std::size_t>(buffer.channels()));
         buffer.interleavedS16(interleaved.data());

@@ -45,6 +45,13 @@ FrameAccumulator::FrameAccumulator(uint32_t frameLength) : m_frame(std::max<uint
 
 void FrameAccumulator::add(const float* samples, std::size_t count)
 {
+    // Whole frames that start at a frame boundary are measured in place.
+    const std::size_t length = m_frame.size();
+    while (m_filled == 0 && count >= length) {
+        m_rms.append(rms(samples, static_cast<uint32_t>(length)));
+        samples += length;
+        count -= length;
+    }
     while (count > 0) {
         const std::size_t take = std::min(count, m_frame.size() - m_filled);
         std::memcpy(m_frame.data() + m_filled, samples, take * sizeof(float));
