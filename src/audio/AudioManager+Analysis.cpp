@@ -41,6 +41,11 @@ QString AudioManager::getAudioFormatByFormatID(uint32_t formatID)
     }
 }
 
+QString AudioManager::getAudioFormat(const AudioStreamInfo& format)
+{
+    return getAudioFormatByFormatID(format.formatID);
+}
+
 bool AudioManager::analyzeAudioCharacteristics(const QString& path)
 {
     m_progress.store(0.0, std::memory_order_relaxed);
@@ -142,7 +147,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     m_characteristics = std::move(characteristics);
     m_channelCount = info.channels;
     m_channelInfo = info.channels == 2 ? QStringLiteral("Stereo") : QStringLiteral("Mono");
-    m_audioFormat = getAudioFormatByFormatID(info.formatID);
+    m_audioFormat = getAudioFormat(info);
     m_totalSamples = frames;
     m_decodedWaveform = DecodedWaveform{peaks.normalized(), m_sampleRate, peaks.totalFrames(),
                                         info.bitRate};

@@ -13,6 +13,7 @@
 
 class Defaults;
 class NotificationCenter;
+struct AudioStreamInfo;
 
 // The loudness profile of a file: one RMS value per 20 ms analysis frame,
 // with its mean, extremes and spread.
@@ -63,6 +64,7 @@ public:
     static float calculateRMSForBuffer(const float* buffer, uint32_t frameCount);
     static double getAudioDurationFromFile(const QString& path);
     static QString getAudioFormatByFormatID(uint32_t formatID);
+    static QString getAudioFormat(const AudioStreamInfo& format);
 
     float sampleRate() const { return m_sampleRate; }
     QString channelInfo() const { return m_channelInfo; }

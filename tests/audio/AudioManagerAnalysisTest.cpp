@@ -6,10 +6,13 @@
 #include "support/TestSupport.h"
 
 #include <QRegularExpression>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <memory>
 
 using TestSupport::fixture;
 
@@ -217,4 +220,36 @@ TEST_F(AudioManagerAnalysis, LogsTheThresholdAndTheListing)
         R"(^Silence: [1-5],start=\d+\.\d\ds, duration=\d+\.\d\ds, midPoint=\d+\.\d\ds$)"));
     EXPECT_EQ(silenceLines.size(), 5);
     EXPECT_TRUE(lines.contains("Segment: 1,start=0.00s, duration=2.00s"));
+}
+
+TEST_F(AudioManagerAnalysis, LoadsOnAWorkerWhileTheMainThreadWatchesProgress)
+{
+    std::atomic<bool> done{false};
+    bool ok = false;
+    QThread* completedOn = nullptr;
+    std::unique_ptr<QThread> worker(QThread::create([&] {
+        engine.processAudioFile(fixture("speech_vbr.mp3"), [&](bool success) {
+            ok = success;
+            completedOn = QThread::currentThread();
+        });
+        done = true;
+    }));
+    worker->start();
+    QList<double> seen;
+    while (!done) {
+        const double p = engine.analysisProgress();
+        if (seen.isEmpty() || p != seen.last())
+            seen.append(p);
+        QThread::yieldCurrentThread();
+    }
+    worker->wait();
+    ASSERT_TRUE(ok);
+    EXPECT_EQ(completedOn, worker.get());
+    EXPECT_EQ(engine.analysisProgress(), 1.0);
+    EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+
+    // The peaks come back on the engine's own (this) thread.
+    EXPECT_TRUE(engine.waveformData().isEmpty());
+    TestSupport::processEvents();
+    EXPECT_FALSE(engine.waveformData().isEmpty());
 }
