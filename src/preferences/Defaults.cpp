@@ -117,12 +117,19 @@ bool Defaults::boolForKey(const QString& key) const
 
 QString Defaults::stringForKey(const QString& key) const
 {
+    // Numbers read as their text; data, lists and absent values as empty.
     const QVariant v = objectForKey(key);
-    if (v.typeId() == QMetaType::QString)
+    switch (v.typeId()) {
+    case QMetaType::QString:
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::Bool:
         return v.toString();
-    if (v.canConvert<double>() && v.typeId() != QMetaType::QByteArray && v.isValid())
-        return v.toString();
-    return {};
+    default:
+        return {};
+    }
 }
 
 QByteArray Defaults::dataForKey(const QString& key) const
