@@ -49,7 +49,8 @@ TEST_F(AudioManagerAnalysis, SameSpeechInEveryFormatCutsTheSameSegments)
     for (const char* file : {"speech.mp3", "speech_vbr.mp3", "speech_aac.m4a", "speech.m4r",
                              "speech.aac", "speech_alac.m4a", "speech.flac", "speech_24bit.flac",
                              "speech.aiff", "speech.aif", "speech.caf", "speech_float.wav",
-                             "speech_stereo.wav", "speech_6ch.wav", "speech_48k.wav"}) {
+                             "speech_stereo.wav", "speech_6ch.wav", "speech_48k.wav",
+                             "speech_cover.mp3"}) {
         ASSERT_TRUE(load(file)) << file << ": " << qPrintable(engine.lastError());
         const SegmentList& segments = engine.segments();
         ASSERT_EQ(segments.size(), reference.size()) << file;
