@@ -26,7 +26,7 @@ std::optional<QString> BookmarkStore::resolveBookmarkData(const QByteArray& data
     if (isStale)
         *isStale = false;
 
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString path = decoder.decode(data);
     if (decoder.hasError() || path.isEmpty() || !QDir::isAbsolutePath(path) || path.contains(QChar(0)))
         return fail(QStringLiteral("The bookmark data is not a folder path"));

@@ -11,9 +11,10 @@ namespace Lrc {
 
 std::optional<QString> decodeUtf8(const QByteArray& bytes)
 {
-    // The default decoder drops a leading byte-order mark and flags every
-    // malformed sequence.
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    // The decoder drops a leading byte-order mark and flags every malformed
+    // sequence. Stateless, so that a sequence cut off at the end of the file
+    // is an error too rather than input held back for a next call.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder.decode(bytes);
     if (decoder.hasError())
         return std::nullopt;
