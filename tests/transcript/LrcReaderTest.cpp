@@ -136,36 +136,3 @@ TEST(LrcReader, HeaderTagsAreMatchedCaseSensitivelyAtTheStartOnly)
     // A first stamp equal to 0 is accepted: the comparison needs an earlier line.
     EXPECT_EQ(readStampedLines("[00:00.000]\n[00:00.000]b").texts, QStringList{""});
 }
-
-TEST(LrcReader, SegmentsRunFromStampToStampAndTheLastToTheEnd)
-{
-    TestSupport::LogCapture log;
-    const SegmentList s = buildSegments({0.0, 1.0, 12.339}, 20.0);
-    ASSERT_EQ(s.size(), 3);
-    EXPECT_EQ(s[0], (Segment{0.0, 1.0}));
-    EXPECT_EQ(s[1], (Segment{1.0, 11.339}));
-    EXPECT_DOUBLE_EQ(s[2].start, 12.339);
-    EXPECT_DOUBLE_EQ(s[2].duration, 20.0 - 12.339);
-    EXPECT_TRUE(log.contains("1,start=0.000000,duration=1.000000"));
-    EXPECT_TRUE(log.contains("3,start=12.339000,duration=7.661000"));
-}
-
-TEST(LrcReader, SegmentRebuildingRules)
-{
-    // No audio open: one stamp at 0 gets five seconds; anything later stops it.
-    EXPECT_EQ(buildSegments({0.0}, 0.0), SegmentList{(Segment{0.0, 5.0})});
-    {
-        TestSupport::LogCapture log;
-        EXPECT_TRUE(buildSegments({0.5, 1.0}, 0.0).isEmpty());
-        EXPECT_EQ(log.lines(),
-                  QStringList{"loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间"});
-    }
-    // A stamp past the end stops the building; those before it stay.
-    EXPECT_EQ(buildSegments({0.0, 2.0, 9.0, 3.0}, 5.0), (SegmentList{{0.0, 2.0}, {2.0, 7.0}}));
-    // A last stamp at the very end gives no segment.
-    EXPECT_EQ(buildSegments({0.0, 5.0}, 5.0), SegmentList{(Segment{0.0, 5.0})});
-    // Not sorted: a stamp followed by an earlier one gets no segment.
-    EXPECT_EQ(buildSegments({1.0, 2.0, 1.0, 3.0}, 4.0),
-              (SegmentList{{1.0, 1.0}, {1.0, 2.0}, {3.0, 1.0}}));
-    EXPECT_TRUE(buildSegments({}, 10.0).isEmpty());
-}

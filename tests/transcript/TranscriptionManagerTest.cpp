@@ -233,6 +233,15 @@ TEST_F(TranscriptionManagerTest, StampsBeyondTheAudioStopTheSegmentsButKeepTheTe
     EXPECT_TRUE(log.contains("2,start=2.000000,duration=2.000000"));
 }
 
+TEST_F(TranscriptionManagerTest, LastStampAtTheVeryEndGetsNoSegment)
+{
+    total = 5.0;
+    writeAll(path("end"), "[00:00.000]a\n[00:05.000]b");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("end")));
+    EXPECT_EQ(store.transcriptions(), (QStringList{"a", "b"}));
+    EXPECT_EQ(*store.segments(), SegmentList{(Segment{0.0, 5.0})});
+}
+
 TEST_F(TranscriptionManagerTest, WithNoAudioOpenOnlyAStampAtZeroGetsASegment)
 {
     total = 0.0;
@@ -240,10 +249,12 @@ TEST_F(TranscriptionManagerTest, WithNoAudioOpenOnlyAStampAtZeroGetsASegment)
     ASSERT_TRUE(store.loadTranscriptionsFromFile(path("zero")));
     EXPECT_EQ(*store.segments(), SegmentList{(Segment{0.0, 5.0})});
 
+    LogCapture log;
     writeAll(path("late"), "[00:00.500]late");
     ASSERT_TRUE(store.loadTranscriptionsFromFile(path("late")));
     EXPECT_EQ(store.transcriptions(), QStringList{"late"});
     EXPECT_TRUE(store.segments()->isEmpty());
+    EXPECT_EQ(log.lines().last(), "loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间");
 }
 
 TEST_F(TranscriptionManagerTest, RepeatedStampsAndTheirSegments)
