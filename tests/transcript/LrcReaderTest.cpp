@@ -77,6 +77,9 @@ TEST(LrcReader, AnyUnicodeDecimalDigitCountsAsInIcu)
     // Mathematical bold digits lie outside the BMP; a fraction cut after three
     // UTF-16 units keeps one whole digit.
     EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[00:01.\U0001D7D1\U0001D7D2]")), 1.003);
+    // Found by the fuzz target against an engine without Unicode digits: a
+    // full-width digit inside the fraction, after broken header-like text.
+    EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[4[4[ar:[ar:[00:00.0\uFF1100]0")), 0.01);
     // Superscript two is a number but not a decimal digit.
     EXPECT_EQ(stampOf(QString::fromUtf8("[0\u00B2:00.000]")), -1.0);
     EXPECT_EQ(leadingIntegerValue(u"12x3"), 12);
