@@ -20,6 +20,8 @@ struct Command
 const Command kCommands[] = {
     {"analyze", "print the loudness profile and segments of an audio file as JSON", Cli::analyze},
     {"split", "print the LRC time stamps of an audio file's segments", Cli::split},
+    {"parse-lrc", "read a transcript as the application loads it; print texts and segments as JSON", Cli::parseLrc},
+    {"identity", "print an audio file's identity and where its transcript is stored", Cli::identity},
 };
 
 void printUsage(FILE* to)

@@ -12,3 +12,9 @@ inline constexpr const char* Sensitivity = "ksensitivity";               // inte
 inline constexpr const char* MinGapDuration = "kminGapDuration";         // double s, floor 1.0
 
 } // namespace PreferenceKeys
+
+// The folder bookmark store of the open road; no defaults are registered.
+namespace PreferenceKeys {
+inline constexpr const char* LastDirectoryBookmark = "LastDirectoryBookmark"; // base64 text
+inline constexpr const char* LastAudioFileName = "LastAudioFileName";         // file name
+} // namespace PreferenceKeys

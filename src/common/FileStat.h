@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+
+// What the file system records about one file, read with a single statx(2).
+struct FileStat
+{
+    enum class Type { Regular, Directory, SymbolicLink, Other };
+
+    Type type = Type::Other;
+    qint64 size = 0;
+    // Absent when the file system keeps no creation time.
+    std::optional<QDateTime> birthTime;
+    QDateTime modificationTime;
+    quint64 device = 0; // as st_dev
+    quint64 inode = 0;
+    uint permissions = 0; // the mode's permission bits
+    uint ownerId = 0;
+    uint groupId = 0;
+};
+
+// Reads a file's attributes; a symbolic link is followed when asked. On failure
+// returns nothing and puts the reason ("path: No such file or directory") in
+// `error` if given.
+std::optional<FileStat> statFile(const QString& path, bool followSymlinks, QString* error = nullptr);

@@ -1,0 +1,304 @@
+#include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "support/TestSupport.h"
+#include "transcript/LrcLine.h"
+#include "transcript/TranscriptionManager.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using TestSupport::LogCapture;
+
+namespace {
+
+QByteArray readAll(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<unreadable>");
+}
+
+void writeAll(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    ASSERT_EQ(f.write(bytes), bytes.size());
+}
+
+class TranscriptionManagerTest : public ::testing::Test
+{
+protected:
+    // The length of the "open audio" the loader asks for.
+    double total = 0.0;
+    TranscriptionManager store{[this] { return total; }};
+    QTemporaryDir dir;
+
+    QString path(const QString& name) const { return dir.filePath(name); }
+
+    // Stages one LRC line per row, as the session does before a save.
+    void stage(const QList<double>& starts, const QStringList& texts)
+    {
+        store.clearAllTranscriptions();
+        for (qsizetype i = 0; i < texts.size(); ++i)
+            store.setTranscription(Lrc::formatLine(starts[i], texts[i]), i);
+    }
+};
+
+} // namespace
+
+TEST_F(TranscriptionManagerTest, ListOperations)
+{
+    EXPECT_TRUE(store.transcriptions().isEmpty());
+    EXPECT_FALSE(store.segments().has_value());
+
+    store.setTranscription("third", 2);
+    EXPECT_EQ(store.transcriptions(), (QStringList{"", "", "third"}));
+    store.setTranscription(QString(), 2);
+    EXPECT_EQ(store.transcriptionForSegment(2), "");
+    store.setTranscription("first", 0);
+    store.setTranscription("ignored", -1);
+    EXPECT_EQ(store.transcriptions(), (QStringList{"first", "", ""}));
+    EXPECT_EQ(store.transcriptionForSegment(0), "first");
+    EXPECT_EQ(store.transcriptionForSegment(3), "");
+    EXPECT_EQ(store.transcriptionForSegment(-1), "");
+
+    store.clearAllSegments(); // nothing to clear, no list made
+    EXPECT_FALSE(store.segments().has_value());
+    store.mutableSegments().append(Segment{1.0, 2.0});
+    ASSERT_TRUE(store.segments().has_value());
+    EXPECT_EQ(store.segments()->size(), 1);
+    store.clearAllSegments();
+    EXPECT_TRUE(store.segments().has_value());
+    EXPECT_TRUE(store.segments()->isEmpty());
+
+    store.mutableTranscriptions().append("more");
+    EXPECT_EQ(store.transcriptions().size(), 4);
+    store.clearAllTranscriptions();
+    EXPECT_TRUE(store.transcriptions().isEmpty());
+}
+
+TEST_F(TranscriptionManagerTest, ExportNumbersEveryRowAndKeepsTheLastLineFeed)
+{
+    EXPECT_EQ(store.exportToText(), "");
+    store.setTranscriptions({"first", "", "third"});
+    EXPECT_EQ(store.exportToText(), "1. first\n2. \n3. third\n");
+}
+
+TEST_F(TranscriptionManagerTest, SavedFileIsUtf8WithoutBomOrFinalLineFeed)
+{
+    LogCapture log;
+    stage({0.0, 1.001, 12.34}, {"héllo", "", "日本語 text"});
+    ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
+    EXPECT_EQ(readAll(path("t")),
+              QString("[00:00.000]héllo\n[00:01.000]\n[00:12.339]日本語 text").toUtf8());
+    EXPECT_TRUE(log.contains("Successfully wrote to file."));
+    // Only the target is left in the folder: no temporary file.
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"t"});
+
+    store.clearAllTranscriptions();
+    ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
+    EXPECT_EQ(readAll(path("t")), "");
+    store.setTranscriptions({""});
+    ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
+    EXPECT_EQ(readAll(path("t")), "");
+    // Elements are written as they are: the manager adds no stamps.
+    store.setTranscriptions({"plain", "text\n"});
+    ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
+    EXPECT_EQ(readAll(path("t")), "plain\ntext\n");
+}
+
+TEST_F(TranscriptionManagerTest, RoundTripKeepsRowsTextsAndTruncatedStamps)
+{
+    total = 20.0;
+    stage({0.0, 1.001, 12.34}, {"zero", "", "  twelve\t"});
+    ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
+
+    TranscriptionManager reader([] { return 20.0; });
+    ASSERT_TRUE(reader.loadTranscriptionsFromFile(path("t")));
+    EXPECT_EQ(reader.transcriptions(), (QStringList{"zero", "", "twelve"}));
+    ASSERT_TRUE(reader.segments().has_value());
+    const SegmentList& s = *reader.segments();
+    ASSERT_EQ(s.size(), 3);
+    EXPECT_EQ(s[0].start, 0.0);
+    EXPECT_EQ(s[1].start, 1.0);
+    EXPECT_DOUBLE_EQ(s[2].start, 12.339);
+    EXPECT_DOUBLE_EQ(s[2].end(), 20.0);
+}
+
+TEST_F(TranscriptionManagerTest, EveryRowCountSurvivesAWriteAndARead)
+{
+    for (int rows : {0, 1, 2, 7, 250}) {
+        QList<double> starts;
+        QStringList texts;
+        for (int i = 0; i < rows; ++i) {
+            starts.append(i * 1.37);
+            texts.append(i % 3 == 0 ? QString() : QStringLiteral("row %1").arg(i));
+        }
+        total = rows * 1.37 + 1.0;
+        stage(starts, texts);
+        ASSERT_TRUE(store.saveTranscriptionsToFile(path("rows")));
+        ASSERT_TRUE(store.loadTranscriptionsFromFile(path("rows")));
+        EXPECT_EQ(store.transcriptions().size(), rows) << rows;
+        EXPECT_EQ(store.segments()->size(), rows) << rows;
+        for (int i = 0; i < rows; ++i)
+            EXPECT_EQ(store.transcriptions()[i], texts[i].isNull() ? QString("") : texts[i]);
+    }
+}
+
+TEST_F(TranscriptionManagerTest, MissingOrUnreadableFilesChangeNothing)
+{
+    store.setTranscriptions({"kept"});
+    store.mutableSegments().append(Segment{0.0, 1.0});
+    {
+        LogCapture log;
+        EXPECT_FALSE(store.loadTranscriptionsFromFile(path("absent")));
+        EXPECT_EQ(log.lines(), QStringList{"Error file path: (null)"});
+    }
+    {
+        LogCapture log;
+        writeAll(path("latin1"), "[00:00.000]caf\xE9");
+        EXPECT_FALSE(store.loadTranscriptionsFromFile(path("latin1")));
+        ASSERT_EQ(log.lines().size(), 1);
+        EXPECT_EQ(log.lines()[0], QString::fromUtf8("Error reading file: The file \u201clatin1\u201d "
+                                                    "couldn\u2019t be opened using text encoding "
+                                                    "Unicode (UTF-8)."));
+    }
+    {
+        LogCapture log;
+        EXPECT_FALSE(store.loadTranscriptionsFromFile(dir.path())); // a folder
+        ASSERT_EQ(log.lines().size(), 1);
+        EXPECT_TRUE(log.lines()[0].startsWith("Error reading file: "));
+    }
+    EXPECT_EQ(store.transcriptions(), QStringList{"kept"});
+    EXPECT_EQ(*store.segments(), SegmentList{(Segment{0.0, 1.0})});
+}
+
+TEST_F(TranscriptionManagerTest, EmptyFileAndFileWithoutStampsGiveEmptyLists)
+{
+    store.setTranscriptions({"old"});
+    writeAll(path("empty"), "");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("empty")));
+    EXPECT_TRUE(store.transcriptions().isEmpty());
+    ASSERT_TRUE(store.segments().has_value());
+    EXPECT_TRUE(store.segments()->isEmpty());
+
+    store.setTranscriptions({"old"});
+    writeAll(path("words"), "just words\n[ti:title]\n[length:03:20]\n");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("words")));
+    EXPECT_TRUE(store.transcriptions().isEmpty());
+}
+
+TEST_F(TranscriptionManagerTest, ByteOrderMarkAndMixedLineEndings)
+{
+    total = 30.0;
+    writeAll(path("mixed"), "\xEF\xBB\xBF[ti:After a BOM]\r\n[00:01.000]crlf\r\n[00:02.000]cr\r"
+                            "[00:03.000]ls\xE2\x80\xA8[00:04.000]ps\xE2\x80\xA9[00:05.000]nel\xC2\x85"
+                            "[00:06.000]lf\n\r\n\r\n[00:07.000]end");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("mixed")));
+    EXPECT_EQ(store.transcriptions(), (QStringList{"crlf", "cr", "ls", "ps", "nel", "lf", "end"}));
+    EXPECT_EQ(store.segments()->size(), 7);
+    EXPECT_EQ(store.segments()->last(), (Segment{7.0, 23.0}));
+}
+
+TEST_F(TranscriptionManagerTest, TenMegabytesOnOneLine)
+{
+    total = 60.0;
+    QByteArray big = "[00:01.000]";
+    big += QByteArray(10 * 1024 * 1024, 'x');
+    big += "\n[00:02.000]next";
+    writeAll(path("big"), big);
+    LogCapture log;
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("big")));
+    ASSERT_EQ(store.transcriptions().size(), 2);
+    EXPECT_EQ(store.transcriptions()[0].size(), 10 * 1024 * 1024);
+    EXPECT_EQ(store.transcriptions()[1], "next");
+
+    // The same length of text with no stamp at all is skipped.
+    writeAll(path("big"), QByteArray(10 * 1024 * 1024, '['));
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("big")));
+    EXPECT_TRUE(store.transcriptions().isEmpty());
+}
+
+TEST_F(TranscriptionManagerTest, StampsBeyondTheAudioStopTheSegmentsButKeepTheTexts)
+{
+    total = 3.0;
+    writeAll(path("long"), "[00:00.000]a\n[00:02.000]b\n[00:04.000]c\n[00:01.000]d");
+    LogCapture log;
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("long")));
+    EXPECT_EQ(store.transcriptions(), (QStringList{"a", "b", "c", "d"}));
+    EXPECT_EQ(*store.segments(), (SegmentList{{0.0, 2.0}, {2.0, 2.0}}));
+    EXPECT_TRUE(log.contains("loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间"));
+    EXPECT_TRUE(log.contains("2,start=2.000000,duration=2.000000"));
+}
+
+TEST_F(TranscriptionManagerTest, LastStampAtTheVeryEndGetsNoSegment)
+{
+    total = 5.0;
+    writeAll(path("end"), "[00:00.000]a\n[00:05.000]b");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("end")));
+    EXPECT_EQ(store.transcriptions(), (QStringList{"a", "b"}));
+    EXPECT_EQ(*store.segments(), SegmentList{(Segment{0.0, 5.0})});
+}
+
+TEST_F(TranscriptionManagerTest, WithNoAudioOpenOnlyAStampAtZeroGetsASegment)
+{
+    total = 0.0;
+    writeAll(path("zero"), "[00:00.000]only");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("zero")));
+    EXPECT_EQ(*store.segments(), SegmentList{(Segment{0.0, 5.0})});
+
+    LogCapture log;
+    writeAll(path("late"), "[00:00.500]late");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("late")));
+    EXPECT_EQ(store.transcriptions(), QStringList{"late"});
+    EXPECT_TRUE(store.segments()->isEmpty());
+    EXPECT_EQ(log.lines().last(), "loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间");
+}
+
+TEST_F(TranscriptionManagerTest, RepeatedStampsAndTheirSegments)
+{
+    total = 10.0;
+    writeAll(path("dups"), "[00:01.000]first\n[00:01.000]second\n[00:02.000]x\n[00:01.000]back");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("dups")));
+    EXPECT_EQ(store.transcriptions(), (QStringList{"first", "x", "back"}));
+    // "x" at 2 s is followed by 1 s: negative, no segment; the texts outnumber
+    // the segments and the caller then ignores the file.
+    EXPECT_EQ(*store.segments(), (SegmentList{{1.0, 1.0}, {1.0, 9.0}}));
+}
+
+TEST_F(TranscriptionManagerTest, LoadedListsReplaceTheStagedOnes)
+{
+    total = 5.0;
+    store.setTranscriptions({"[00:00.000]staged", "[00:01.000]lines"});
+    store.mutableSegments() = {{0.0, 1.0}, {1.0, 1.0}, {2.0, 1.0}};
+    writeAll(path("one"), "[00:00.000]loaded");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("one")));
+    EXPECT_EQ(store.transcriptions(), QStringList{"loaded"});
+    EXPECT_EQ(*store.segments(), SegmentList{(Segment{0.0, 5.0})});
+}
+
+TEST(TranscriptionManagerDuration, ComesFromTheSharedEngineByDefault)
+{
+    AudioManager& engine = AudioManager::sharedInstance();
+    bool loaded = false;
+    engine.processAudioFile(TestSupport::fixture("silent.wav"), [&](bool ok) { loaded = ok; });
+    ASSERT_TRUE(loaded);
+    TestSupport::processEvents();
+    ASSERT_NEAR(engine.getTotalDuration(), 3.0, 0.01);
+
+    QTemporaryDir dir;
+    const QString file = dir.filePath("t");
+    {
+        QFile f(file);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("[00:00.000]a\n[00:02.000]b");
+    }
+    TranscriptionManager store;
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(file));
+    ASSERT_EQ(store.segments()->size(), 2);
+    // The last segment runs to the end of the engine's open audio.
+    EXPECT_DOUBLE_EQ(store.segments()->last().end(), engine.getTotalDuration());
+    EXPECT_EQ(&TranscriptionManager::sharedInstance(), &TranscriptionManager::sharedInstance());
+}
