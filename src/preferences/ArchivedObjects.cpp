@@ -180,7 +180,9 @@ std::optional<QFont> unarchiveFont(const QByteArray& data, QString* error)
         coder.failWithError(QStringLiteral("the point size %1 is out of range").arg(*size));
     if (!coder.isValid())
         return failed<QFont>(error, coder.errorString());
-    QFont font(*family);
+    // Not QFont(family): that splits a family name at commas into a list.
+    QFont font;
+    font.setFamily(*family);
     font.setPointSizeF(*size);
     return font;
 }

@@ -221,3 +221,38 @@ TEST(ArchivedObjects, AShortcutArchiveHoldsExactlyKeyCodeAndModifierFlags)
         ArchivedObjects::unarchiveKeyboardShortcut(*swapped.archivedData(nullptr), &error));
     EXPECT_EQ(error, "the value under \"keyCode\" is not a signed integer");
 }
+
+TEST(ArchivedObjects, TheStoredShortcutFormatStaysAsUsersHaveIt)
+{
+    // Users' settings files hold these bytes; a change of format would make
+    // every stored shortcut unreadable.
+    const QByteArray expected = QByteArray::fromHex(
+        "4b4c4152104b6579626f61726453686f727463757400010002076b6579436f646569000000000000000f0d6d6f"
+        "646966696572466c616773750000000000040000");
+    EXPECT_EQ(ArchivedObjects::archiveKeyboardShortcut({15, 0x40000}, nullptr), expected);
+    EXPECT_EQ(ArchivedObjects::unarchiveKeyboardShortcut(expected, nullptr),
+              KeyboardShortcut(15, 0x40000));
+}
+
+TEST(ArchivedObjects, AFontFamilyWithACommaReadsBackWhole)
+{
+    // Found by the archive fuzzer: "Men,o" came back as the family "Men".
+    const QByteArray found = QByteArray::fromBase64(
+        "S0xBUgVRRm9udAABAAIGZmFtaWx5cwAAAAVNZW4sbwlwb2ludFNpemVkQDQAAAAAAAA=");
+    QString error;
+    const std::optional<QFont> font = ArchivedObjects::unarchiveFont(found, &error);
+    ASSERT_TRUE(font) << error.toStdString();
+    EXPECT_EQ(font->family(), "Men,o");
+    EXPECT_EQ(font->pointSizeF(), 20.0);
+    const std::optional<QByteArray> again = ArchivedObjects::archiveFont(*font, &error);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(ArchivedObjects::unarchiveFont(*again, &error), font);
+
+    QFont listed;
+    listed.setFamily(QStringLiteral("Source Code Pro, Light"));
+    listed.setPointSizeF(11);
+    EXPECT_EQ(
+        ArchivedObjects::unarchiveFont(*ArchivedObjects::archiveFont(listed, nullptr), nullptr)
+            ->family(),
+        "Source Code Pro, Light");
+}
