@@ -119,7 +119,9 @@ bool LanguageManager::installStartupTranslator()
 void LanguageManager::removeStartupTranslator()
 {
     if (m_translator) {
-        QCoreApplication::removeTranslator(m_translator.get());
+        // The shared manager outlives the application object at exit.
+        if (QCoreApplication::instance())
+            QCoreApplication::removeTranslator(m_translator.get());
         m_translator.reset();
     }
 }

@@ -15,6 +15,7 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <limits>
+#include <memory>
 
 namespace {
 
