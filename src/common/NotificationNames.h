@@ -8,4 +8,8 @@ namespace Notifications {
 // AudioManager::updateSegments. Object: the engine; userInfo {"segments": QList<Segment>}.
 inline constexpr const char* AudioManagerSegmentsDidUpdate = "AudioManagerSegmentsDidUpdate";
 
+// LanguageManager::changeLanguage. No object; userInfo {"language": new code,
+// "oldLanguage": previous code}.
+inline constexpr const char* LanguageDidChangeNotification = "LanguageDidChangeNotification";
+
 } // namespace Notifications

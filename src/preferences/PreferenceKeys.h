@@ -4,6 +4,31 @@
 // the "k" prefix varies between keys and is kept as stored by earlier versions.
 namespace PreferenceKeys {
 
+// Transcription table look (archived colours and font) and visibility switches.
+inline constexpr const char* TableBackgroundColor = "kTableBackgroundColor"; // archived colour
+inline constexpr const char* DictationTextColor = "kDictationTextColor";     // archived colour
+inline constexpr const char* DictationTextFont = "kDictationTextFont";       // archived font
+inline constexpr const char* ShowLineNumbers = "kShowLineNumbers";           // bool
+inline constexpr const char* ShowAudioWave = "kShowAudioWave";               // bool
+inline constexpr const char* ShowStatusBar = "kShowStatusBar";               // bool
+
+// Playback shortcuts (archived KeyboardShortcut), in the order key presses test them.
+inline constexpr const char* PreviousSegmentShortcut = "kPreviousSegmentShortcut";
+inline constexpr const char* NextSegmentShortcut = "kNextSegmentShortcut";
+inline constexpr const char* PlayPauseShortcut = "kPlayPauseShortcut";
+inline constexpr const char* RepeatPlayShortcut = "kRepeatPlayShortcut";
+inline constexpr const char* PlayFirstShortcut = "kPlayFirstShortcut";
+inline constexpr const char* SplitAudioShortcut = "kSplitAudioShortcut";
+
+// Interface language: the chosen code, and the one-element preference list read
+// at start-up to pick the translation. Neither has a registered value.
+inline constexpr const char* AppLanguage = "AppLanguage";       // string
+inline constexpr const char* AppleLanguages = "AppleLanguages"; // list of strings
+
+// Base address of the update lookup service ("lookup?..." is appended); when
+// unset the build's default is used. Not registered.
+inline constexpr const char* UpdateLookupURL = "UpdateLookupURL"; // string
+
 // Engine: segmentation and playback.
 inline constexpr const char* MinSegmentDuration = "kminSegmentDuration"; // double s, floor 1.0
 inline constexpr const char* PlaySpeed = "kPlaySpeed";                   // double, 0.3..3.0

@@ -1,0 +1,189 @@
+#pragma once
+
+#include <QtGlobal>
+#include <array>
+
+// Every user-visible text, declared once, in English: the English text is the
+// lookup key (LocalizedString) and the source text of the translation files in
+// translations/. Call sites use these constants; lupdate finds them through
+// QT_TRANSLATE_NOOP. A text with a format placeholder ("%@", "%llu") keeps it in
+// every language.
+namespace Texts {
+
+// Main window, menus, help
+inline constexpr const char* AppName = QT_TRANSLATE_NOOP("Localizable", "Kelmora");
+inline constexpr const char* NoAudioFileOpened =
+    QT_TRANSLATE_NOOP("Localizable", "No audio file opened");
+inline constexpr const char* Preferences = QT_TRANSLATE_NOOP("Localizable", "Preferences");
+inline constexpr const char* Help = QT_TRANSLATE_NOOP("Localizable", "Help");
+inline constexpr const char* HelpText = QT_TRANSLATE_NOOP(
+    "Localizable",
+    "Quick Help Guide:\n\n1. Open Audio File: Command + O\n2. Play/Pause: Enter\n3. Next Segment: "
+    "Down Arrow\n4. Previous Segment: Up Arrow\n5. Repeat Mode: Control+ R\n6. Save Dictation: "
+    "Command + S\n\nIf you have any questions, email me: support@kelmora.app.");
+inline constexpr const char* OK = QT_TRANSLATE_NOOP("Localizable", "OK");
+inline constexpr const char* Cancel = QT_TRANSLATE_NOOP("Localizable", "Cancel");
+inline constexpr const char* Save = QT_TRANSLATE_NOOP("Localizable", "Save");
+inline constexpr const char* DontSave = QT_TRANSLATE_NOOP("Localizable", "Don't Save");
+inline constexpr const char* Later = QT_TRANSLATE_NOOP("Localizable", "Later");
+inline constexpr const char* SaveDictationTitle =
+    QT_TRANSLATE_NOOP("Localizable", "Save Dictation?");
+inline constexpr const char* SaveDictationMessage =
+    QT_TRANSLATE_NOOP("Localizable", "Do you want to save the dictation before closing?");
+inline constexpr const char* ErrorOpeningFile =
+    QT_TRANSLATE_NOOP("Localizable", "Error Opening File");
+
+// Opening a file
+inline constexpr const char* InvalidFileType =
+    QT_TRANSLATE_NOOP("Localizable", "Invalid File Type");
+inline constexpr const char* SelectSupportedAudioFile =
+    QT_TRANSLATE_NOOP("Localizable", "Please select a supported audio file");
+inline constexpr const char* FileAccessError =
+    QT_TRANSLATE_NOOP("Localizable", "File Access Error");
+inline constexpr const char* FileTooLarge = QT_TRANSLATE_NOOP("Localizable", "File Too Large");
+inline constexpr const char* SelectSmallerFile =
+    QT_TRANSLATE_NOOP("Localizable", "Please select an audio file smaller than %llu MB");
+inline constexpr const char* Error = QT_TRANSLATE_NOOP("Localizable", "Error");
+inline constexpr const char* FailedToProcessAudio =
+    QT_TRANSLATE_NOOP("Localizable", "Failed to process audio file");
+inline constexpr const char* GrantFolderAccessMessage = QT_TRANSLATE_NOOP(
+    "Localizable", "Please grant access to the folder containing your audio files");
+inline constexpr const char* GrantAccess = QT_TRANSLATE_NOOP("Localizable", "Grant Access");
+
+// Transcripts: export, import, clear
+inline constexpr const char* SaveTranscript = QT_TRANSLATE_NOOP("Localizable", "Save Transcript");
+inline constexpr const char* SaveError = QT_TRANSLATE_NOOP("Localizable", "Save Error");
+inline constexpr const char* ErrorWritingToFile =
+    QT_TRANSLATE_NOOP("Localizable", "Error writing to file");
+inline constexpr const char* Warning = QT_TRANSLATE_NOOP("Localizable", "Warning");
+inline constexpr const char* OpenAudioFileFirst =
+    QT_TRANSLATE_NOOP("Localizable", "Please open an audio file first");
+inline constexpr const char* FailedToLoadTranscription =
+    QT_TRANSLATE_NOOP("Localizable", "Failed to load transcription");
+inline constexpr const char* InvalidFile = QT_TRANSLATE_NOOP("Localizable", "Invalid File");
+inline constexpr const char* LyricDurationTooLong =
+    QT_TRANSLATE_NOOP("Localizable", "lyric duration is too long");
+inline constexpr const char* ConfirmClearDictation =
+    QT_TRANSLATE_NOOP("Localizable", "Are you sure to clear dictation?");
+
+// Status bar
+inline constexpr const char* Samples = QT_TRANSLATE_NOOP("Localizable", "Samples");
+inline constexpr const char* Duration = QT_TRANSLATE_NOOP("Localizable", "Duration");
+inline constexpr const char* Segments = QT_TRANSLATE_NOOP("Localizable", "Segments");
+inline constexpr const char* Play = QT_TRANSLATE_NOOP("Localizable", "Play");
+inline constexpr const char* Pause = QT_TRANSLATE_NOOP("Localizable", "Pause");
+inline constexpr const char* Repeat = QT_TRANSLATE_NOOP("Localizable", "Repeat");
+inline constexpr const char* Forward = QT_TRANSLATE_NOOP("Localizable", "Forward");
+
+// Transcription table header
+inline constexpr const char* Segment = QT_TRANSLATE_NOOP("Localizable", "Segment");
+inline constexpr const char* Dictation = QT_TRANSLATE_NOOP("Localizable", "Dictation");
+inline constexpr const char* DictationAfterSeparator =
+    QT_TRANSLATE_NOOP("Localizable", "|Dictation");
+
+// Preferences panel: language names, repeat-count input, reset, restart prompt
+inline constexpr const char* English = QT_TRANSLATE_NOOP("Localizable", "English");
+inline constexpr const char* ChineseSimplified =
+    QT_TRANSLATE_NOOP("Localizable", "Chinese(Simplified)");
+inline constexpr const char* Spanish = QT_TRANSLATE_NOOP("Localizable", "Spanish");
+inline constexpr const char* Japanese = QT_TRANSLATE_NOOP("Localizable", "Japanese");
+inline constexpr const char* Korean = QT_TRANSLATE_NOOP("Localizable", "Korean");
+inline constexpr const char* German = QT_TRANSLATE_NOOP("Localizable", "German");
+inline constexpr const char* French = QT_TRANSLATE_NOOP("Localizable", "French");
+inline constexpr const char* Russian = QT_TRANSLATE_NOOP("Localizable", "Russian");
+inline constexpr const char* Thai = QT_TRANSLATE_NOOP("Localizable", "Thai");
+inline constexpr const char* Vietnamese = QT_TRANSLATE_NOOP("Localizable", "Vietnamese");
+inline constexpr const char* InputTooLong =
+    QT_TRANSLATE_NOOP("Localizable", "Input must not exceed 6 digits");
+inline constexpr const char* InvalidInput = QT_TRANSLATE_NOOP("Localizable", "Invalid input: %@");
+inline constexpr const char* SettingsReset = QT_TRANSLATE_NOOP("Localizable", "Settings Reset");
+inline constexpr const char* SettingsRestored =
+    QT_TRANSLATE_NOOP("Localizable", "All settings have been restored to their default values");
+// The misspelling is the lookup key used by earlier versions; it is shown as "Warning".
+inline constexpr const char* RestartTitle = QT_TRANSLATE_NOOP("Localizable", "Warnning");
+inline constexpr const char* RestartMessage =
+    QT_TRANSLATE_NOOP("Localizable", "Please restart the app to apply the new language.");
+inline constexpr const char* RestartNow = QT_TRANSLATE_NOOP("Localizable", "Restart Now");
+
+// Update check
+inline constexpr const char* ErrorCheckingForUpdates =
+    QT_TRANSLATE_NOOP("Localizable", "Error checking for updates");
+inline constexpr const char* ErrorParsingUpdatesJson =
+    QT_TRANSLATE_NOOP("Localizable", "Error parsing updates JSON");
+inline constexpr const char* AlreadyLatestVersion =
+    QT_TRANSLATE_NOOP("Localizable", "App is already the latest version");
+inline constexpr const char* UpdateAvailable = QT_TRANSLATE_NOOP("Localizable", "Update Available");
+inline constexpr const char* UpdateAvailableMessage =
+    QT_TRANSLATE_NOOP("Localizable", "Version %@ is available.\n\nRelease Notes:\n%@");
+inline constexpr const char* NoReleaseNotes =
+    QT_TRANSLATE_NOOP("Localizable", "No release notes available");
+inline constexpr const char* Update = QT_TRANSLATE_NOOP("Localizable", "Update");
+
+// All of the above, for the completeness check of the translations.
+inline constexpr std::array All = {AppName,
+                                   NoAudioFileOpened,
+                                   Preferences,
+                                   Help,
+                                   HelpText,
+                                   OK,
+                                   Cancel,
+                                   Save,
+                                   DontSave,
+                                   Later,
+                                   SaveDictationTitle,
+                                   SaveDictationMessage,
+                                   ErrorOpeningFile,
+                                   InvalidFileType,
+                                   SelectSupportedAudioFile,
+                                   FileAccessError,
+                                   FileTooLarge,
+                                   SelectSmallerFile,
+                                   Error,
+                                   FailedToProcessAudio,
+                                   GrantFolderAccessMessage,
+                                   GrantAccess,
+                                   SaveTranscript,
+                                   SaveError,
+                                   ErrorWritingToFile,
+                                   Warning,
+                                   OpenAudioFileFirst,
+                                   FailedToLoadTranscription,
+                                   InvalidFile,
+                                   LyricDurationTooLong,
+                                   ConfirmClearDictation,
+                                   Samples,
+                                   Duration,
+                                   Segments,
+                                   Play,
+                                   Pause,
+                                   Repeat,
+                                   Forward,
+                                   Segment,
+                                   Dictation,
+                                   DictationAfterSeparator,
+                                   English,
+                                   ChineseSimplified,
+                                   Spanish,
+                                   Japanese,
+                                   Korean,
+                                   German,
+                                   French,
+                                   Russian,
+                                   Thai,
+                                   Vietnamese,
+                                   InputTooLong,
+                                   InvalidInput,
+                                   SettingsReset,
+                                   SettingsRestored,
+                                   RestartTitle,
+                                   RestartMessage,
+                                   RestartNow,
+                                   ErrorCheckingForUpdates,
+                                   ErrorParsingUpdatesJson,
+                                   AlreadyLatestVersion,
+                                   UpdateAvailable,
+                                   UpdateAvailableMessage,
+                                   NoReleaseNotes,
+                                   Update};
+
+} // namespace Texts

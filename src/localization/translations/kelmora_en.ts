@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>No audio file opened</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>Don&apos;t Save</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>Save Dictation?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>Do you want to save the dictation before closing?</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>Error Opening File</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>Invalid File Type</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>Please select a supported audio file</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>File Access Error</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>File Too Large</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>Please select an audio file smaller than %llu MB</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>Failed to process audio file</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>Please grant access to the folder containing your audio files</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>Grant Access</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>Save Transcript</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>Save Error</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>Error writing to file</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>Please open an audio file first</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>Failed to load transcription</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>Invalid File</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>lyric duration is too long</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>Are you sure to clear dictation?</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Samples</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Segments</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repeat</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>Dictation</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|Dictation</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>Chinese(Simplified)</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japanese</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Korean</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>German</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>French</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Russian</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Thai</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamese</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>Input must not exceed 6 digits</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>Invalid input: %@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>Settings Reset</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>All settings have been restored to their default values</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>Please restart the app to apply the new language.</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>Restart Now</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>Error checking for updates</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>Error parsing updates JSON</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>App is already the latest version</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>Update Available</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>Version %@ is available.
+
+Release Notes:
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>No release notes available</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>No hay ningún archivo de audio abierto</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Guía rápida de ayuda:
+
+1. Abrir archivo de audio: Command + O
+2. Reproducir/Pausar: Enter
+3. Segmento siguiente: flecha abajo
+4. Segmento anterior: flecha arriba
+5. Modo de repetición: Control+ R
+6. Guardar dictado: Command + S
+
+Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>No guardar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>¿Guardar el dictado?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>¿Quieres guardar el dictado antes de cerrar?</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>Error al abrir el archivo</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>Tipo de archivo no válido</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>Selecciona un archivo de audio compatible</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>Error de acceso al archivo</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>Archivo demasiado grande</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>Selecciona un archivo de audio de menos de %llu MB</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>No se pudo procesar el archivo de audio</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>Concede acceso a la carpeta que contiene tus archivos de audio</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>Conceder acceso</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>Guardar transcripción</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>Error al guardar</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>Error al escribir en el archivo</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>Primero abre un archivo de audio</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>No se pudo cargar la transcripción</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>Archivo no válido</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>la duración de la letra es demasiado larga</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>¿Seguro que quieres borrar el dictado?</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Segmentos</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Continuo</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segmento</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>Dictado</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|Dictado</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Inglés</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>Chino (simplificado)</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonés</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coreano</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Alemán</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Francés</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Ruso</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Tailandés</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamita</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>La entrada no puede superar los 6 dígitos</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>Entrada no válida: %@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>Ajustes restablecidos</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>Todos los ajustes se han restablecido a sus valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>Reinicia la aplicación para aplicar el nuevo idioma.</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>Reiniciar ahora</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>Error al buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>Error al analizar el JSON de actualizaciones</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>La aplicación ya está en la versión más reciente</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>Actualización disponible</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>La versión %@ está disponible.
+
+Notas de la versión:
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>No hay notas de la versión disponibles</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>Aucun fichier audio ouvert</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Aide rapide :
+
+1. Ouvrir un fichier audio : Command + O
+2. Lecture/Pause : Entrée
+3. Segment suivant : flèche bas
+4. Segment précédent : flèche haut
+5. Mode répétition : Control+ R
+6. Enregistrer la dictée : Command + S
+
+Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>Enregistrer la dictée ?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>Voulez-vous enregistrer la dictée avant de fermer ?</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>Erreur lors de l&apos;ouverture du fichier</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>Type de fichier non valide</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>Veuillez sélectionner un fichier audio pris en charge</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>Erreur d&apos;accès au fichier</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>Fichier trop volumineux</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>Veuillez sélectionner un fichier audio de moins de %llu Mo</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>Impossible de traiter le fichier audio</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>Veuillez autoriser l&apos;accès au dossier contenant vos fichiers audio</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>Autoriser l&apos;accès</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>Enregistrer la transcription</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>Erreur d&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>Erreur lors de l&apos;écriture du fichier</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>Veuillez d&apos;abord ouvrir un fichier audio</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>Impossible de charger la transcription</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>Fichier non valide</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>la durée des paroles est trop longue</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>Voulez-vous vraiment effacer la dictée ?</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Segments</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Répéter</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Continu</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>Dictée</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|Dictée</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Anglais</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>Chinois (simplifié)</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Espagnol</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonais</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coréen</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Allemand</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Russe</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Thaï</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamien</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>La saisie ne doit pas dépasser 6 chiffres</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>Saisie non valide : %@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>Réglages réinitialisés</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>Tous les réglages ont été rétablis à leurs valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>Veuillez redémarrer l&apos;application pour appliquer la nouvelle langue.</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>Redémarrer maintenant</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>Erreur lors de la recherche de mises à jour</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>Erreur lors de l&apos;analyse du JSON des mises à jour</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>L&apos;application est déjà à jour</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>Mise à jour disponible</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>La version %@ est disponible.
+
+Notes de version :
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>Aucune note de version disponible</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>オーディオファイルが開かれていません</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>クイックヘルプ：
+
+1. オーディオファイルを開く：Command + O
+2. 再生/一時停止：Enter
+3. 次のセグメント：下矢印キー
+4. 前のセグメント：上矢印キー
+5. リピートモード：Control+ R
+6. ディクテーションを保存：Command + S
+
+ご質問がありましたら、こちらまでメールでお寄せください：support@kelmora.app。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>保存しない</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>ディクテーションを保存しますか？</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>閉じる前にディクテーションを保存しますか？</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>ファイルを開けませんでした</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>無効なファイル形式</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>対応しているオーディオファイルを選択してください</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>ファイルアクセスエラー</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>%llu MB 未満のオーディオファイルを選択してください</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>オーディオファイルを処理できませんでした</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>オーディオファイルがあるフォルダへのアクセスを許可してください</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>アクセスを許可</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>書き起こしを保存</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>保存エラー</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>ファイルへの書き込み中にエラーが発生しました</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>先にオーディオファイルを開いてください</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>書き起こしを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>無効なファイル</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>歌詞の長さが長すぎます</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>ディクテーションを消去してもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>サンプル数</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>セグメント数</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>リピート</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>連続</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>セグメント</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>ディクテーション</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|ディクテーション</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>英語</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>中国語（簡体字）</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>スペイン語</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韓国語</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>ドイツ語</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>フランス語</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>ロシア語</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>タイ語</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>ベトナム語</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>入力は6桁以内にしてください</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>無効な入力：%@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>設定をリセットしました</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>すべての設定がデフォルト値に戻されました</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>新しい言語を適用するには、アプリを再起動してください。</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>今すぐ再起動</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>アップデートの確認中にエラーが発生しました</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>アップデート情報（JSON）の解析中にエラーが発生しました</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>アプリは最新バージョンです</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>アップデートがあります</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>バージョン %@ が利用可能です。
+
+リリースノート：
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>リリースノートはありません</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>アップデート</translation>
+    </message>
+</context>
+</TS>

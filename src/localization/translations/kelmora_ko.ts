@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>열린 오디오 파일이 없습니다</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>환경설정</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>빠른 도움말:
+
+1. 오디오 파일 열기: Command + O
+2. 재생/일시정지: Enter
+3. 다음 구간: 아래쪽 화살표
+4. 이전 구간: 위쪽 화살표
+5. 반복 모드: Control+ R
+6. 받아쓰기 저장: Command + S
+
+궁금한 점이 있으면 이메일을 보내 주세요: support@kelmora.app.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>저장 안 함</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>나중에</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>받아쓰기를 저장하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>닫기 전에 받아쓰기를 저장하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>파일을 여는 중 오류 발생</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>잘못된 파일 형식</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>지원되는 오디오 파일을 선택하세요</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>파일 접근 오류</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>파일이 너무 큽니다</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>%llu MB보다 작은 오디오 파일을 선택하세요</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>오디오 파일을 처리하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>오디오 파일이 들어 있는 폴더에 대한 접근을 허용해 주세요</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>접근 허용</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>녹취록 저장</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>저장 오류</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>파일에 쓰는 중 오류가 발생했습니다</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>먼저 오디오 파일을 여세요</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>녹취록을 불러오지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>잘못된 파일</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>가사 길이가 너무 깁니다</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>받아쓰기를 모두 지우시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>샘플 수</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>길이</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>구간 수</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>일시정지</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>반복</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>연속</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>구간</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>받아쓰기</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|받아쓰기</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>영어</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>중국어(간체)</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>스페인어</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>일본어</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>독일어</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>프랑스어</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>러시아어</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>태국어</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>베트남어</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>입력은 6자리를 넘을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>잘못된 입력: %@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>설정 초기화됨</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>모든 설정이 기본값으로 복원되었습니다</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>새 언어를 적용하려면 앱을 다시 시작하세요.</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>지금 다시 시작</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>업데이트 확인 중 오류 발생</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>업데이트 JSON 분석 중 오류 발생</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>앱이 이미 최신 버전입니다</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>업데이트 가능</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>버전 %@을(를) 사용할 수 있습니다.
+
+릴리스 노트:
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>릴리스 노트가 없습니다</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>업데이트</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="th" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>ยังไม่ได้เปิดไฟล์เสียง</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>การตั้งค่า</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>วิธีใช้</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>คู่มือช่วยเหลือฉบับย่อ:
+
+1. เปิดไฟล์เสียง: Command + O
+2. เล่น/หยุดชั่วคราว: Enter
+3. ช่วงถัดไป: ลูกศรลง
+4. ช่วงก่อนหน้า: ลูกศรขึ้น
+5. โหมดเล่นซ้ำ: Control+ R
+6. บันทึกการเขียนตามคำบอก: Command + S
+
+หากมีคำถามใด ๆ ส่งอีเมลถึงฉันได้ที่: support@kelmora.app</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>บันทึก</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>ไม่บันทึก</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>ภายหลัง</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>บันทึกการเขียนตามคำบอกหรือไม่</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>คุณต้องการบันทึกการเขียนตามคำบอกก่อนปิดหรือไม่</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>เกิดข้อผิดพลาดในการเปิดไฟล์</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>ประเภทไฟล์ไม่ถูกต้อง</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>โปรดเลือกไฟล์เสียงที่รองรับ</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>ข้อผิดพลาดในการเข้าถึงไฟล์</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>ไฟล์มีขนาดใหญ่เกินไป</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>โปรดเลือกไฟล์เสียงที่มีขนาดเล็กกว่า %llu MB</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>ข้อผิดพลาด</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>ประมวลผลไฟล์เสียงไม่สำเร็จ</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>โปรดอนุญาตให้เข้าถึงโฟลเดอร์ที่มีไฟล์เสียงของคุณ</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>อนุญาตการเข้าถึง</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>บันทึกบทถอดความ</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>ข้อผิดพลาดในการบันทึก</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>เกิดข้อผิดพลาดในการเขียนไฟล์</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>คำเตือน</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>โปรดเปิดไฟล์เสียงก่อน</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>โหลดบทถอดความไม่สำเร็จ</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>ไฟล์ไม่ถูกต้อง</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>ความยาวของเนื้อเพลงยาวเกินไป</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>คุณแน่ใจหรือไม่ว่าต้องการล้างการเขียนตามคำบอก</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>จำนวนแซมเปิล</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>ความยาว</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>จำนวนช่วง</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>เล่น</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>หยุดชั่วคราว</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>เล่นซ้ำ</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>เล่นต่อเนื่อง</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>ช่วง</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>เขียนตามคำบอก</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|เขียนตามคำบอก</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>ภาษาอังกฤษ</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>ภาษาจีน (ตัวย่อ)</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>ภาษาสเปน</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>ภาษาญี่ปุ่น</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>ภาษาเกาหลี</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>ภาษาเยอรมัน</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>ภาษาฝรั่งเศส</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>ภาษารัสเซีย</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>ภาษาไทย</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>ภาษาเวียดนาม</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>ป้อนได้ไม่เกิน 6 หลัก</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>ข้อมูลที่ป้อนไม่ถูกต้อง: %@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>รีเซ็ตการตั้งค่าแล้ว</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>คืนค่าการตั้งค่าทั้งหมดเป็นค่าเริ่มต้นแล้ว</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>คำเตือน</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>โปรดรีสตาร์ตแอปเพื่อใช้ภาษาใหม่</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>รีสตาร์ตเดี๋ยวนี้</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>เกิดข้อผิดพลาดในการตรวจสอบการอัปเดต</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>เกิดข้อผิดพลาดในการแยกวิเคราะห์ JSON ของการอัปเดต</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>แอปเป็นเวอร์ชันล่าสุดแล้ว</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>มีอัปเดตใหม่</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>เวอร์ชัน %@ พร้อมให้ใช้งานแล้ว
+
+บันทึกประจำรุ่น:
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>ไม่มีบันทึกประจำรุ่น</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>อัปเดต</translation>
+    </message>
+</context>
+</TS>

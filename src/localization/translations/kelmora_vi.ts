@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="vi" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>Chưa mở tệp âm thanh nào</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Tùy chọn</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Trợ giúp</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Hướng dẫn nhanh:
+
+1. Mở tệp âm thanh: Command + O
+2. Phát/Tạm dừng: Enter
+3. Đoạn tiếp theo: Mũi tên xuống
+4. Đoạn trước: Mũi tên lên
+5. Chế độ lặp lại: Control+ R
+6. Lưu bài chính tả: Command + S
+
+Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora.app.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Lưu</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>Không lưu</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Để sau</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>Lưu bài chính tả?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>Bạn có muốn lưu bài chính tả trước khi đóng không?</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>Lỗi khi mở tệp</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>Loại tệp không hợp lệ</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>Vui lòng chọn một tệp âm thanh được hỗ trợ</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>Lỗi truy cập tệp</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>Tệp quá lớn</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>Vui lòng chọn tệp âm thanh nhỏ hơn %llu MB</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Lỗi</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>Không thể xử lý tệp âm thanh</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>Vui lòng cấp quyền truy cập vào thư mục chứa các tệp âm thanh của bạn</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>Cấp quyền truy cập</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>Lưu bản chép lời</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>Lỗi khi lưu</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>Lỗi khi ghi vào tệp</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Cảnh báo</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>Vui lòng mở một tệp âm thanh trước</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>Không thể tải bản chép lời</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>Tệp không hợp lệ</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>thời lượng lời bài hát quá dài</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>Bạn có chắc muốn xóa bài chính tả không?</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Số mẫu</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Thời lượng</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Số đoạn</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Phát</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Tạm dừng</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Lặp lại</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Liên tục</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Đoạn</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>Chính tả</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|Chính tả</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Tiếng Anh</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>Tiếng Trung (Giản thể)</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Tiếng Tây Ban Nha</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Tiếng Nhật</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Tiếng Hàn</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Tiếng Đức</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Tiếng Pháp</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Tiếng Nga</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Tiếng Thái</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Tiếng Việt</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>Giá trị nhập không được vượt quá 6 chữ số</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>Giá trị nhập không hợp lệ: %@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>Đã đặt lại cài đặt</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>Tất cả cài đặt đã được khôi phục về giá trị mặc định</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>Cảnh báo</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>Vui lòng khởi động lại ứng dụng để áp dụng ngôn ngữ mới.</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>Khởi động lại ngay</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>Lỗi khi kiểm tra bản cập nhật</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>Lỗi khi phân tích JSON cập nhật</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>Ứng dụng đã là phiên bản mới nhất</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>Có bản cập nhật</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>Đã có phiên bản %@.
+
+Ghi chú phát hành:
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>Không có ghi chú phát hành</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Cập nhật</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,291 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Kelmora</source>
+        <translation>Kelmora</translation>
+    </message>
+    <message>
+        <source>No audio file opened</source>
+        <translation>未打开音频文件</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>偏好设置</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: Command + O
+2. Play/Pause: Enter
+3. Next Segment: Down Arrow
+4. Previous Segment: Up Arrow
+5. Repeat Mode: Control+ R
+6. Save Dictation: Command + S
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>快速帮助指南：
+
+1. 打开音频文件：Command + O
+2. 播放/暂停：Enter
+3. 下一段：下箭头键
+4. 上一段：上箭头键
+5. 重复模式：Control+ R
+6. 保存听写：Command + S
+
+如有任何问题，请发送邮件至：support@kelmora.app。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>好</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>不保存</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍后</translation>
+    </message>
+    <message>
+        <source>Save Dictation?</source>
+        <translation>保存听写？</translation>
+    </message>
+    <message>
+        <source>Do you want to save the dictation before closing?</source>
+        <translation>关闭前要保存听写内容吗？</translation>
+    </message>
+    <message>
+        <source>Error Opening File</source>
+        <translation>打开文件时出错</translation>
+    </message>
+    <message>
+        <source>Invalid File Type</source>
+        <translation>文件类型无效</translation>
+    </message>
+    <message>
+        <source>Please select a supported audio file</source>
+        <translation>请选择受支持的音频文件</translation>
+    </message>
+    <message>
+        <source>File Access Error</source>
+        <translation>文件访问错误</translation>
+    </message>
+    <message>
+        <source>File Too Large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Please select an audio file smaller than %llu MB</source>
+        <translation>请选择小于 %llu MB 的音频文件</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Failed to process audio file</source>
+        <translation>处理音频文件失败</translation>
+    </message>
+    <message>
+        <source>Please grant access to the folder containing your audio files</source>
+        <translation>请授予对存放音频文件的文件夹的访问权限</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>授予访问权限</translation>
+    </message>
+    <message>
+        <source>Save Transcript</source>
+        <translation>保存文稿</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>保存出错</translation>
+    </message>
+    <message>
+        <source>Error writing to file</source>
+        <translation>写入文件时出错</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Please open an audio file first</source>
+        <translation>请先打开音频文件</translation>
+    </message>
+    <message>
+        <source>Failed to load transcription</source>
+        <translation>加载文稿失败</translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation>无效文件</translation>
+    </message>
+    <message>
+        <source>lyric duration is too long</source>
+        <translation>歌词时长过长</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear dictation?</source>
+        <translation>确定要清空听写内容吗？</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>采样数</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>分段数</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>连续</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>分段</translation>
+    </message>
+    <message>
+        <source>Dictation</source>
+        <translation>听写</translation>
+    </message>
+    <message>
+        <source>|Dictation</source>
+        <translation>|听写</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>英语</translation>
+    </message>
+    <message>
+        <source>Chinese(Simplified)</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>西班牙语</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日语</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韩语</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>德语</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>法语</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>俄语</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>泰语</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>越南语</translation>
+    </message>
+    <message>
+        <source>Input must not exceed 6 digits</source>
+        <translation>输入不能超过 6 位数字</translation>
+    </message>
+    <message>
+        <source>Invalid input: %@</source>
+        <translation>无效输入：%@</translation>
+    </message>
+    <message>
+        <source>Settings Reset</source>
+        <translation>设置已重置</translation>
+    </message>
+    <message>
+        <source>All settings have been restored to their default values</source>
+        <translation>所有设置均已恢复为默认值</translation>
+    </message>
+    <message>
+        <source>Warnning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Please restart the app to apply the new language.</source>
+        <translation>请重新启动应用以使用新语言。</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>立即重新启动</translation>
+    </message>
+    <message>
+        <source>Error checking for updates</source>
+        <translation>检查更新时出错</translation>
+    </message>
+    <message>
+        <source>Error parsing updates JSON</source>
+        <translation>解析更新信息（JSON）时出错</translation>
+    </message>
+    <message>
+        <source>App is already the latest version</source>
+        <translation>应用已是最新版本</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>有可用更新</translation>
+    </message>
+    <message>
+        <source>Version %@ is available.
+
+Release Notes:
+%@</source>
+        <translation>版本 %@ 现已推出。
+
+更新说明：
+%@</translation>
+    </message>
+    <message>
+        <source>No release notes available</source>
+        <translation>暂无更新说明</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+</context>
+</TS>

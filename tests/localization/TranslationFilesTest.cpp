@@ -1,0 +1,152 @@
+// Every interface language has a finished translation of every user-visible
+// text, keeps its placeholders, and is built into the binary.
+
+#include "localization/LanguageBundle.h"
+#include "localization/LanguageManager.h"
+#include "localization/LocalizedTexts.h"
+#include "preferences/Defaults.h"
+#include "preferences/PreferenceKeys.h"
+#include "support/TestSupport.h"
+
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Message
+{
+    QString translation;
+    QString type; // "unfinished", "vanished", "obsolete" or empty (finished)
+};
+
+struct TsFile
+{
+    QString language;
+    QMap<QString, Message> messages;
+    QStringList duplicates;
+    QString error;
+};
+
+TsFile readTs(const QString& path)
+{
+    TsFile ts;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        ts.error = file.errorString();
+        return ts;
+    }
+    QXmlStreamReader xml(&file);
+    QString context, source;
+    Message message;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("TS")) {
+            ts.language = xml.attributes().value("language").toString();
+        } else if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("source")) {
+            source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation")) {
+            message.type = xml.attributes().value("type").toString();
+            message.translation = xml.readElementText();
+            if (context != QLatin1String(LanguageBundle::MainTable))
+                ts.error = "message outside the main table: " + source;
+            if (ts.messages.contains(source))
+                ts.duplicates << source;
+            ts.messages.insert(source, message);
+        }
+    }
+    if (xml.hasError())
+        ts.error = xml.errorString();
+    return ts;
+}
+
+QString tsPath(const QString& code)
+{
+    return QStringLiteral(KELMORA_TRANSLATIONS_DIR "/kelmora_%1.ts").arg(code);
+}
+
+QStringList placeholders(const QString& text)
+{
+    static const QRegularExpression re(QStringLiteral("%(?:@|llu|lu|ld|d|%)"));
+    QStringList found;
+    for (auto it = re.globalMatch(text); it.hasNext();)
+        found << it.next().captured();
+    return found;
+}
+
+QSet<QString> allTexts()
+{
+    QSet<QString> texts;
+    for (const char* t : Texts::All)
+        texts.insert(QString::fromUtf8(t));
+    return texts;
+}
+
+} // namespace
+
+TEST(TranslationFiles, EveryLanguageTranslatesEveryTextCompletelyKeepingPlaceholders)
+{
+    const QSet<QString> texts = allTexts();
+    ASSERT_EQ(texts.size(), qsizetype(Texts::All.size())) << "a text is listed twice";
+    for (const auto& lang : LanguageManager::supportedLanguages()) {
+        SCOPED_TRACE(lang.code);
+        const TsFile ts = readTs(tsPath(lang.code));
+        ASSERT_TRUE(ts.error.isEmpty()) << ts.error.toStdString();
+        EXPECT_TRUE(ts.duplicates.isEmpty()) << ts.duplicates.join(", ").toStdString();
+        const QSet<QString> sources(ts.messages.keyBegin(), ts.messages.keyEnd());
+        for (const QString& missing : texts - sources)
+            ADD_FAILURE() << "no translation of \"" << missing.toStdString() << "\"";
+        for (const QString& extra : sources - texts)
+            ADD_FAILURE() << "\"" << extra.toStdString() << "\" is not a text of the application";
+
+        int sameAsEnglish = 0;
+        for (auto it = ts.messages.cbegin(); it != ts.messages.cend(); ++it) {
+            const QString& source = it.key();
+            const Message& m = it.value();
+            EXPECT_TRUE(m.type.isEmpty()) << source.toStdString() << " is " << m.type.toStdString();
+            EXPECT_FALSE(m.translation.trimmed().isEmpty()) << source.toStdString();
+            EXPECT_EQ(placeholders(m.translation).join(u' ').toStdString(),
+                      placeholders(source).join(u' ').toStdString())
+                << source.toStdString();
+            if (m.translation == source)
+                ++sameAsEnglish;
+        }
+        // Brand names and words like "OK" or "Pause" may stay as they are; a
+        // file that mostly repeats the English is not a translation.
+        if (QLatin1String(lang.code) != QLatin1String("en")) {
+            EXPECT_LE(sameAsEnglish, 6);
+        }
+    }
+}
+
+TEST(TranslationFiles, LanguageNamesOfThePanelAreTexts)
+{
+    const QSet<QString> texts = allTexts();
+    ASSERT_EQ(LanguageManager::supportedLanguages().size(), 10);
+    for (const auto& lang : LanguageManager::supportedLanguages())
+        EXPECT_TRUE(texts.contains(lang.englishName)) << lang.englishName;
+}
+
+TEST(TranslationFiles, CompiledTranslationsAreBuiltInAndAnswerEveryText)
+{
+    TestSupport::TempDefaults t;
+    LanguageBundle bundle(t.store());
+    bundle.activateLanguageOverride();
+    for (const auto& lang : LanguageManager::supportedLanguages()) {
+        SCOPED_TRACE(lang.code);
+        ASSERT_TRUE(LanguageBundle::hasTranslation(lang.code));
+        const TsFile ts = readTs(tsPath(lang.code));
+        t.store().setObject(QString::fromLatin1(lang.code), PreferenceKeys::AppLanguage);
+        for (const char* text : Texts::All) {
+            const QString answer = bundle.localizedStringForKey(text, QString(), QString());
+            EXPECT_EQ(answer, ts.messages.value(text).translation) << text;
+        }
+    }
+}

@@ -1,0 +1,172 @@
+#include "preferences/Keyboard.h"
+
+#include "preferences/KeyboardShortcut.h"
+
+#include <QKeyEvent>
+#include <QSet>
+#include <gtest/gtest.h>
+#include <map>
+
+TEST(Keyboard, KeyNamesCoverTheWholeTableAndFallBackToKeyN)
+{
+    const std::map<qint64, QString> names = {
+        {0, "A"},       {1, "S"},     {2, "D"},     {3, "F"},           {4, "H"},
+        {5, "G"},       {6, "Z"},     {7, "X"},     {8, "C"},           {9, "V"},
+        {11, "B"},      {12, "Q"},    {13, "W"},    {14, "E"},          {15, "R"},
+        {16, "Y"},      {17, "T"},    {18, "1"},    {19, "2"},          {20, "3"},
+        {21, "4"},      {22, "6"},    {23, "5"},    {24, "="},          {25, "9"},
+        {26, "7"},      {27, "-"},    {28, "8"},    {29, "0"},          {30, "]"},
+        {31, "O"},      {32, "U"},    {33, "["},    {34, "I"},          {35, "P"},
+        {36, "Return"}, {37, "L"},    {38, "J"},    {39, "'"},          {40, "K"},
+        {41, ";"},      {42, "\\"},   {43, ","},    {44, "/"},          {45, "N"},
+        {46, "M"},      {47, "."},    {48, "Tab"},  {49, "Space"},      {50, "`"},
+        {51, "Delete"}, {53, "Esc"},  {64, "F17"},  {72, "VolumeUp"},   {73, "VolumeDown"},
+        {74, "Mute"},   {79, "F18"},  {80, "F19"},  {90, "20"},         {96, "F5"},
+        {97, "F6"},     {98, "F7"},   {99, "F3"},   {100, "F8"},        {101, "F9"},
+        {103, "F11"},   {109, "F10"}, {111, "F12"}, {115, "Home"},      {116, "Page Up"},
+        {118, "F4"},    {119, "End"}, {120, "F2"},  {121, "Page Down"}, {122, "F1"},
+        {123, "←"},     {124, "→"},   {125, "↓"},   {126, "↑"},
+    };
+    for (qint64 code = -2; code < 300; ++code) {
+        const auto it = names.find(code);
+        const QString expected =
+            it != names.end() ? it->second : QStringLiteral("Key %1").arg(code);
+        EXPECT_EQ(Keyboard::keyCodeToString(code), expected) << code;
+    }
+    EXPECT_EQ(Keyboard::keyCodeToString(105), "Key 105");
+    EXPECT_EQ(Keyboard::keyCodeToString(200), "Key 200");
+}
+
+TEST(Keyboard, ModifierDisplayShowsOneSymbolByPrecedence)
+{
+    using namespace ModifierFlag;
+    EXPECT_EQ(Keyboard::modifierFlagsToString(0), "");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Shift), "⇧");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Control), "⌃");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Option), "⌥");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Command), "⌘");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Control | Shift), "⌃");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Command | Shift), "⇧");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(Command | Option), "⌥");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(RecordingMask), "⌃");
+    EXPECT_EQ(Keyboard::modifierFlagsToString(NumericPad | 0x10000), "");
+}
+
+TEST(Keyboard, OnlyTheEightModifierKeysAreModifierKeys)
+{
+    const QSet<qint64> modifiers = {54, 55, 56, 58, 59, 60, 61, 62};
+    for (qint64 code = -1; code < 200; ++code)
+        EXPECT_EQ(Keyboard::isModifierKey(code), modifiers.contains(code)) << code;
+}
+
+TEST(KeyboardShortcut, DisplayStringIsModifierThenKeyAndEmptyForKeyCodeZero)
+{
+    EXPECT_EQ(KeyboardShortcut(126, 0).shortcutDisplayString(), "↑");
+    EXPECT_EQ(KeyboardShortcut(36, 0).shortcutDisplayString(), "Return");
+    EXPECT_EQ(KeyboardShortcut(15, 0x40000).shortcutDisplayString(), "⌃R");
+    EXPECT_EQ(KeyboardShortcut(44, 0x40000).shortcutDisplayString(), "⌃/");
+    EXPECT_EQ(KeyboardShortcut(120, 0).shortcutDisplayString(), "F2");
+    EXPECT_EQ(KeyboardShortcut(15, 0x20000).shortcutDisplayString(), "⇧R");
+    EXPECT_EQ(KeyboardShortcut(12, 0x180000).shortcutDisplayString(), "⌥Q");
+    EXPECT_EQ(KeyboardShortcut(40, 0x1e0000).shortcutDisplayString(), "⌃K");
+    EXPECT_EQ(KeyboardShortcut(105, 0).shortcutDisplayString(), "Key 105");
+    // Key code 0 is the A key; a plain A shows nothing here.
+    EXPECT_EQ(KeyboardShortcut(0, 0).shortcutDisplayString(), "");
+    EXPECT_EQ(KeyboardShortcut(0, 0x100000).shortcutDisplayString(), "");
+    EXPECT_TRUE(KeyboardShortcut(15, 0).displayString().isNull());
+}
+
+namespace {
+
+KeyStroke press(int key, Qt::KeyboardModifiers mods = Qt::NoModifier, quint32 nativeVirtualKey = 0)
+{
+    const QKeyEvent event(QEvent::KeyPress, key, mods, 0, nativeVirtualKey, 0);
+    return Keyboard::keyStrokeForEvent(event);
+}
+
+} // namespace
+
+TEST(KeyboardEvents, QtKeysMapToTheAnsiCodesAndModifierBits)
+{
+    EXPECT_EQ(press(Qt::Key_R, Qt::ControlModifier).keyCode, 15);
+    EXPECT_EQ(press(Qt::Key_R, Qt::ControlModifier).modifierFlags, 0x40000u);
+    EXPECT_EQ(press(Qt::Key_R, Qt::AltModifier).modifierFlags, 0x80000u);
+    EXPECT_EQ(press(Qt::Key_R, Qt::MetaModifier).modifierFlags, 0x100000u);
+    EXPECT_EQ(press(Qt::Key_R, Qt::ShiftModifier).modifierFlags, 0x20000u);
+    EXPECT_EQ(press(Qt::Key_K,
+                    Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)
+                  .modifierFlags,
+              0x1e0000u);
+    EXPECT_EQ(press(Qt::Key_Slash, Qt::ControlModifier).keyCode, 44);
+    EXPECT_EQ(press(Qt::Key_Up).keyCode, 126);
+    EXPECT_EQ(press(Qt::Key_Down).keyCode, 125);
+    EXPECT_EQ(press(Qt::Key_Left).keyCode, 123);
+    EXPECT_EQ(press(Qt::Key_Right).keyCode, 124);
+    EXPECT_EQ(press(Qt::Key_Return).keyCode, 36);
+    EXPECT_EQ(press(Qt::Key_F2).keyCode, 120);
+    EXPECT_EQ(press(Qt::Key_Escape).keyCode, 53);
+    EXPECT_EQ(press(Qt::Key_Backspace).keyCode, 51);
+    EXPECT_EQ(press(Qt::Key_Delete).keyCode, 117);
+    EXPECT_EQ(press(Qt::Key_Space).keyCode, 49);
+    EXPECT_EQ(press(Qt::Key_Tab).keyCode, 48);
+    EXPECT_EQ(press(Qt::Key_Backtab, Qt::ShiftModifier).keyCode, 48);
+    EXPECT_EQ(press(Qt::Key_F20).keyCode, 90);
+    EXPECT_EQ(press(Qt::Key_F13).keyCode, 105);
+
+    // Every letter and digit lands on the code whose name is that character.
+    for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key)
+        EXPECT_EQ(Keyboard::keyCodeToString(press(key).keyCode), QString(QChar(key))) << key;
+    for (int key = Qt::Key_0; key <= Qt::Key_9; ++key)
+        EXPECT_EQ(Keyboard::keyCodeToString(press(key).keyCode), QString(QChar(key))) << key;
+    EXPECT_EQ(press('q').keyCode, 12);
+}
+
+TEST(KeyboardEvents, ShiftedSymbolsKeypadAndModifierKeys)
+{
+    // With Shift held Qt reports the symbol; the stored code is the key's.
+    EXPECT_EQ(press(Qt::Key_Question, Qt::ShiftModifier).keyCode, 44);
+    EXPECT_EQ(press(Qt::Key_Exclam, Qt::ShiftModifier).keyCode, 18);
+    EXPECT_EQ(press(Qt::Key_ParenRight, Qt::ShiftModifier).keyCode, 29);
+    EXPECT_EQ(press(Qt::Key_AsciiTilde, Qt::ShiftModifier).keyCode, 50);
+    EXPECT_EQ(press(Qt::Key_Bar, Qt::ShiftModifier).keyCode, 42);
+
+    // Keypad keys get the keypad codes; the keypad bit never reaches the flags.
+    const KeyStroke kp5 = press(Qt::Key_5, Qt::KeypadModifier);
+    EXPECT_EQ(kp5.keyCode, 87);
+    EXPECT_EQ(kp5.modifierFlags, 0u);
+    EXPECT_EQ(kp5.rawModifierFlags, 0x200000u);
+    EXPECT_EQ(press(Qt::Key_Enter, Qt::KeypadModifier).keyCode, 76);
+    EXPECT_EQ(press(Qt::Key_Plus, Qt::KeypadModifier).keyCode, 69);
+    EXPECT_EQ(press(Qt::Key_Up, Qt::KeypadModifier).keyCode, 126);
+
+    // Modifier keys map to codes that isModifierKey() recognises, left and right.
+    for (int key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_Super_L,
+                    Qt::Key_Super_R, Qt::Key_AltGr})
+        EXPECT_TRUE(Keyboard::isModifierKey(press(key).keyCode)) << key;
+    EXPECT_EQ(press(Qt::Key_Shift, Qt::ShiftModifier, 0xffe1).keyCode, 56);
+    EXPECT_EQ(press(Qt::Key_Shift, Qt::ShiftModifier, 0xffe2).keyCode, 60);
+    EXPECT_EQ(press(Qt::Key_Control, Qt::ControlModifier, 0xffe4).keyCode, 62);
+    EXPECT_EQ(press(Qt::Key_Alt, Qt::AltModifier, 0xffea).keyCode, 61);
+    EXPECT_EQ(press(Qt::Key_CapsLock).keyCode, 57);
+    EXPECT_FALSE(Keyboard::isModifierKey(press(Qt::Key_CapsLock).keyCode));
+}
+
+TEST(KeyboardEvents, KeysOutsideTheNumberingGetDistinctCodesFrom127Below65536)
+{
+    const int keys[] = {Qt::Key_Print, Qt::Key_Pause,     Qt::Key_ScrollLock, Qt::Key_NumLock,
+                        Qt::Key_F21,   Qt::Key_MediaPlay, Qt::Key_MediaNext,  Qt::Key_Back,
+                        0x00e9 /*é*/,  0x0416 /*Ж*/,      0x0e01 /*ก*/,       0x3042 /*あ*/};
+    QSet<qint64> seen;
+    for (int key : keys) {
+        const KeyStroke s = press(key);
+        ASSERT_TRUE(s.isValid()) << key;
+        EXPECT_GE(s.keyCode, 127) << key;
+        EXPECT_LT(s.keyCode, 65536) << key;
+        EXPECT_EQ(Keyboard::keyCodeToString(s.keyCode), QStringLiteral("Key %1").arg(s.keyCode));
+        EXPECT_FALSE(seen.contains(s.keyCode)) << key;
+        seen.insert(s.keyCode);
+        EXPECT_EQ(press(key).keyCode, s.keyCode) << "stable";
+    }
+    EXPECT_FALSE(press(Qt::Key_unknown).isValid());
+    EXPECT_FALSE(press(0).isValid());
+}
