@@ -113,6 +113,7 @@ void AudioPlayer::setCurrentTime(double seconds)
     const double target = std::clamp(seconds, 0.0, std::max(m_duration, 0.0));
     m_floor = target;
     ++m_seekNumber;
+    m_wantedSeek.store(m_seekNumber, std::memory_order_release);
     m_producer->requestSeek(target, m_seekNumber);
 }
 
@@ -153,9 +154,15 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
     qsizetype copied = 0;
     if (m_audible.load(std::memory_order_acquire)) {
         FrameTag last;
-        copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed), &last);
+        copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
+                             m_wantedSeek.load(std::memory_order_acquire), &last);
         if (copied > 0)
             m_handed.store(last);
+        // Ran dry in the middle of the sound (not before its first frame).
+        if (copied < frames && m_handedSeek == m_wantedSeek.load(std::memory_order_relaxed))
+            m_shortReads.fetch_add(1, std::memory_order_relaxed);
+        if (copied > 0)
+            m_handedSeek = last.seek;
     } else {
         m_ring.skipStale();
     }

@@ -66,6 +66,9 @@ public:
     // first frame after the last seek entered the ring.
     FrameTag handedFrame() const { return m_handed.load(); }
     uint32_t seekNumber() const { return m_seekNumber; }
+    // How often the device found the ring empty while sound was playing (the
+    // end of the file counts once).
+    int shortReads() const { return m_shortReads.load(std::memory_order_relaxed); }
     PlaybackProducer::SeekTiming lastSeekTiming() const { return m_producer->lastSeekTiming(); }
 
 signals:
@@ -98,5 +101,8 @@ private:
 
     // Read by the device callback.
     std::atomic<bool> m_audible{false};
+    std::atomic<uint32_t> m_wantedSeek{0};
+    std::atomic<int> m_shortReads{0};
+    uint32_t m_handedSeek = 0; // device callback only
     std::atomic<float> m_volume{1.0f};
 };

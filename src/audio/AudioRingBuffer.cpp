@@ -51,15 +51,20 @@ void AudioRingBuffer::skipStale() noexcept
         m_read.store(flushIndex, std::memory_order_release);
 }
 
-qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, FrameTag* last) noexcept
+qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t seek,
+                                FrameTag* last) noexcept
 {
     // The write index first: a flush is published before the frames that
     // follow it, so seeing those frames guarantees seeing the flush.
     const uint64_t write = m_write.load(std::memory_order_acquire);
     const uint64_t flushIndex = m_flushIndex.load(std::memory_order_acquire);
     uint64_t index = std::max(m_read.load(std::memory_order_relaxed), flushIndex);
-    const uint64_t available = write > index ? write - index : 0;
-    const auto count = static_cast<qsizetype>(std::min<uint64_t>(available, static_cast<uint64_t>(n)));
+    while (index < write && m_tags[index & m_mask].seek != seek)
+        ++index;
+    qsizetype count = 0;
+    while (count < n && index + static_cast<uint64_t>(count) < write &&
+           m_tags[(index + static_cast<uint64_t>(count)) & m_mask].seek == seek)
+        ++count;
     const auto channels = static_cast<uint64_t>(m_channels);
     for (qsizetype i = 0; i < count; ++i, ++index) {
         const float* src = &m_samples[(index & m_mask) * channels];

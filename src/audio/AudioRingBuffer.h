@@ -49,9 +49,11 @@ public:
     uint64_t readIndex() const { return m_read.load(std::memory_order_acquire); }
 
     // ---- Consumer side ----
-    // Skips stale frames, then copies up to n frames scaled by gain into out.
-    // Returns the number copied; *last gets the tag of the last one copied.
-    qsizetype read(float* out, qsizetype n, float gain, FrameTag* last) noexcept;
+    // Skips stale frames and frames of any seek but `seek` (audio queued
+    // before the newest seek must not be heard once it is asked for), then
+    // copies up to n frames of that seek, scaled by gain, into out. Returns
+    // the number copied; *last gets the tag of the last one copied.
+    qsizetype read(float* out, qsizetype n, float gain, uint32_t seek, FrameTag* last) noexcept;
     // Applies a pending flush without reading (used while paused).
     void skipStale() noexcept;
 

@@ -10,6 +10,7 @@ enum ExitCode { Success = 0, Failure = 1, UsageError = 2 };
 
 int analyze(const QStringList& args);
 int split(const QStringList& args);
+int play(const QStringList& args);
 
 // Prints "kelmora-cli: message" on stderr.
 void printError(const QString& message);

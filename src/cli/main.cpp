@@ -20,6 +20,7 @@ struct Command
 const Command kCommands[] = {
     {"analyze", "print the loudness profile and segments of an audio file as JSON", Cli::analyze},
     {"split", "print the LRC time stamps of an audio file's segments", Cli::split},
+    {"play", "play an audio file, or one segment of it, through the sound device", Cli::play},
 };
 
 void printUsage(FILE* to)
