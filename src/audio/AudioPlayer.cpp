@@ -10,7 +10,8 @@
 #include <algorithm>
 
 namespace {
-// About 0.7 s at 44.1 kHz; the decode thread keeps it at most a quarter full.
+// About 0.7 s at 44.1 kHz; the decode thread fills at most 0.25 s of it, so
+// that after a seek there is always room for the new audio at once.
 constexpr qsizetype kRingFrames = 32768;
 } // namespace
 

@@ -107,12 +107,39 @@ void PlaybackProducer::run()
         readMailbox();
         if (produce())
             continue;
+        if (!m_indexed && m_positioned && !m_inputDone && !m_finished) {
+            buildIndex();
+            continue;
+        }
         const auto period = m_playing.load(std::memory_order_relaxed) ? std::chrono::milliseconds(4)
                                                                       : std::chrono::milliseconds(40);
         std::unique_lock lock(m_wakeMutex);
         m_wakeCondition.wait_for(lock, period, [this] { return m_woken; });
         m_woken = false;
     }
+}
+
+void PlaybackProducer::buildIndex()
+{
+    // A file without a seek table (MP3, ADTS AAC) is indexed by reading its
+    // packets up to the point sought, which for a long file takes tens of
+    // milliseconds. Done once for the whole file, the first time the ring is
+    // full, every later seek is fast. Decoding then resumes exactly where it
+    // stood, the way a seek does.
+    m_indexed = true;
+    const double duration = m_decoder.info().duration;
+    if (duration <= 0.0)
+        return;
+    const int64_t resume = m_nextFrame;
+    const double from = std::max(double(resume) / m_sampleRate - m_runIn, 0.0);
+    m_decoder.seek(m_streamStart + duration);
+    if (!m_decoder.seek(m_streamStart + from)) {
+        m_positioned = false;
+        return;
+    }
+    m_dropUntil = resume;
+    m_nextFrame = std::llround(from * m_sampleRate);
+    m_needTimestamp = true;
 }
 
 void PlaybackProducer::readMailbox()

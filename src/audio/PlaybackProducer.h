@@ -56,6 +56,7 @@ private:
     void wake();
     void readMailbox();
     void seekTo(double seconds, uint32_t seek);
+    void buildIndex();
     bool produce();
     bool produceDirect(qsizetype room);
     bool produceStretched(qsizetype room);
@@ -93,6 +94,7 @@ private:
     uint64_t m_seenRequest = 0;
     float m_rate = 1.0f;
     bool m_positioned = false;
+    bool m_indexed = false;
     uint32_t m_seek = 0;
     double m_target = 0.0;
     int64_t m_dropUntil = 0;   // source frame where output starts
