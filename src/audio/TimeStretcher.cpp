@@ -7,26 +7,29 @@
 using RubberBand::RubberBandStretcher;
 
 TimeStretcher::TimeStretcher(int sampleRate, int channels, int maxBlock)
-    : m_channels(channels),
+    : m_sampleRate(sampleRate),
+      m_channels(channels),
       m_maxBlock(maxBlock),
-      m_stretcher(std::make_unique<RubberBandStretcher>(
-          static_cast<size_t>(sampleRate), static_cast<size_t>(channels),
-          RubberBandStretcher::OptionProcessRealTime | RubberBandStretcher::OptionEngineFiner,
-          1.0, 1.0)),
       m_planes(static_cast<size_t>(channels), std::vector<float>(static_cast<size_t>(maxBlock))),
       m_pointers(static_cast<size_t>(channels))
 {
-    m_stretcher->setMaxProcessSize(static_cast<size_t>(maxBlock));
     for (size_t c = 0; c < m_planes.size(); ++c)
         m_pointers[c] = m_planes[c].data();
+    reset(1.0);
 }
 
 TimeStretcher::~TimeStretcher() = default;
 
 void TimeStretcher::reset(double rate)
 {
-    m_stretcher->reset();
-    m_stretcher->setTimeRatio(1.0 / rate);
+    // A new stretcher made at the target ratio rather than reset(): a reset one
+    // remembers its earlier ratio and eases from it, so the same segment would
+    // sound slightly different depending on what was played before.
+    m_stretcher = std::make_unique<RubberBandStretcher>(
+        static_cast<size_t>(m_sampleRate), static_cast<size_t>(m_channels),
+        RubberBandStretcher::OptionProcessRealTime | RubberBandStretcher::OptionEngineFiner,
+        1.0 / rate, 1.0);
+    m_stretcher->setMaxProcessSize(static_cast<size_t>(m_maxBlock));
 }
 
 qsizetype TimeStretcher::startPad() const

@@ -10,8 +10,8 @@ class RubberBandStretcher;
 }
 
 // Rubber Band 3's Finer engine in real-time mode, on interleaved float
-// frames: changes the tempo and keeps the pitch. Its buffers are allocated up
-// front for blocks of at most maxBlock frames.
+// frames: changes the tempo and keeps the pitch. Runs on the decode thread;
+// blocks are at most maxBlock frames.
 class TimeStretcher
 {
 public:
@@ -34,6 +34,7 @@ public:
     qsizetype retrieve(float* interleaved, qsizetype maxFrames);
 
 private:
+    int m_sampleRate;
     int m_channels;
     int m_maxBlock;
     std::unique_ptr<RubberBand::RubberBandStretcher> m_stretcher;

@@ -144,6 +144,25 @@ TEST(AudioPlayer, StretchingKeepsThePitchAndScalesTheTime)
     }
 }
 
+TEST(AudioPlayer, ASegmentStretchedSoundsTheSameWhateverWasPlayedBefore)
+{
+    auto render = [](bool playFirst) {
+        ManualPlayer p = openManual(fixture("speech.wav"));
+        p.player->setEnableRate(true);
+        if (playFirst) {
+            p.player->setRate(0.75f);
+            p.player->play();
+            p.take(30000);
+            p.player->pause();
+        }
+        p.player->setRate(0.5f);
+        p.player->setCurrentTime(2.0);
+        p.player->play();
+        return p.take(44100);
+    };
+    EXPECT_EQ(render(false), render(true));
+}
+
 TEST(AudioPlayer, ARateChangeWhilePlayingGoesOnFromWhereTheSoundWas)
 {
     ManualPlayer p = openManual(fixture("tone_bursts.wav"));
