@@ -58,8 +58,9 @@ public:
     ~AudioManager() override;
 
     // ---- Loading ----
-    // Analyses, segments and hands back the waveform, then calls the completion
-    // (on the calling thread, before returning) with the outcome.
+    // Analyses, segments, creates the player (set to the current rate) and
+    // hands back the waveform, then calls the completion (on the calling
+    // thread, before returning) with the outcome.
     void processAudioFile(const QString& path, const Completion& completion);
     // Fraction of the current analysis done, 0..1; readable from any thread.
     double analysisProgress() const { return m_progress.load(std::memory_order_relaxed); }
