@@ -166,7 +166,7 @@ int Cli::play(const QStringList& args)
                     static_cast<double>(engine.currentRate()));
         engine.setRepeatMode(true);
         engine.setRepeatTimes(options.repeat);
-        engine.setPlaybackCompletionHandler([&] {
+        engine.setPlaybackCompletionHandler([&engine, &options, &finish, index] {
             if (engine.currentSegmentRepeatedTimes() < options.repeat) {
                 engine.stopPlayback();
                 engine.playSegmentAtIndex(index);

@@ -9,8 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <thread>
 
 using namespace PlayerTest;
 using TestSupport::fixture;
@@ -172,8 +174,13 @@ TEST(AudioPlayer, ARateChangeWhilePlayingGoesOnFromWhereTheSoundWas)
     p.player->play();
     p.take(qsizetype(0.5 * sr));
     EXPECT_NEAR(p.player->currentTime(), 0.5, 1e-3);
+    // A device goes on pulling at its own pace meanwhile; here the test waits
+    // for the decode thread to take the change before pulling again.
+    const int64_t before = p.player->lastSeekTiming().firstFrameNs;
     p.player->setRate(2.0f);
     EXPECT_FLOAT_EQ(p.player->rate(), 2.0f);
+    for (int i = 0; i < 5000 && p.player->lastSeekTiming().firstFrameNs == before; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     const std::vector<float> out = p.take(qsizetype(0.75 * sr));
     // 0.5 s + 0.75 s at 2x = 2.0 s of the source: the gap at 1..1.5 s was
     // passed in 0.25 s of output, and the second burst began right after.
