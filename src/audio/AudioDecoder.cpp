@@ -311,6 +311,8 @@ bool AudioDecoder::open(const QString& path)
     info.durationEstimated = raw->duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
     info.bitRate = par->bit_rate > 0 ? par->bit_rate : std::max<int64_t>(raw->bit_rate, 0);
     d->buffer.m_timeBase = av_q2d(stream->time_base);
+    if (stream->start_time != AV_NOPTS_VALUE)
+        info.startTime = double(stream->start_time) * av_q2d(stream->time_base);
     return true;
 }
 
@@ -408,6 +410,25 @@ AudioDecoder::ReadResult AudioDecoder::readNext()
         }
         av_packet_unref(d->packet.get());
     }
+}
+
+bool AudioDecoder::seek(double seconds)
+{
+    if (!d->codec)
+        return false;
+    const AVStream* stream = d->format->streams[d->streamIndex];
+    const double timeBase = av_q2d(stream->time_base);
+    const auto ts = static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase));
+    const int rc = av_seek_frame(d->format.get(), d->streamIndex, ts, AVSEEK_FLAG_BACKWARD);
+    if (rc < 0) {
+        d->error = ffmpegError(rc);
+        return false;
+    }
+    avcodec_flush_buffers(d->codec.get());
+    d->inputDone = false;
+    d->flushed = false;
+    d->buffer.m_frame = nullptr;
+    return true;
 }
 
 double AudioDecoder::containerDuration(const QString& path)

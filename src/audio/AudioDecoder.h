@@ -18,6 +18,7 @@ struct AudioStreamInfo
     double duration = 0;    // seconds, the container's own figure (not the decoded length)
     bool durationEstimated = false; // guessed from the bit rate, not stated by the file
     int64_t bitRate = 0;    // bits per second, the stream's estimate or the container's
+    double startTime = 0;   // stream time stamp of the first sample, in seconds (0 when unknown)
 };
 
 // One decoded buffer, as the codec delivered it. Conversions are done on
@@ -72,6 +73,12 @@ public:
     // Decodes the next buffer. On Buffer, buffer() holds it until the next call.
     ReadResult readNext();
     const DecodedBuffer& buffer() const;
+
+    // Repositions the stream so that the following buffers begin at or before
+    // `seconds` (stream time, as DecodedBuffer::startTime() reports it). The
+    // caller drops what precedes its target; codecs that carry state from frame
+    // to frame (MP3, AAC) need to start a little earlier still to run in.
+    bool seek(double seconds);
 
     // Number of undecodable packets skipped so far (a damaged stretch of a file
     // is passed over, as players do, rather than failing the whole file).

@@ -6,6 +6,7 @@
 #include "common/NotificationNames.h"
 
 #include <QDebug>
+#include <QThread>
 #include <QVariant>
 
 void AudioManager::calculateAdaptiveThresholds()
@@ -54,6 +55,20 @@ void AudioManager::processAudioFile(const QString& path, const Completion& compl
     calculateAdaptiveThresholds();
     detectSilenceWithDynamicWindow();
     Segmentation::applyLoadFixups(m_segments, m_duration);
+
+    // The player belongs to the engine's thread, where it is used and where
+    // its reports arrive; a load running on a worker hands this step over.
+    bool created = false;
+    if (QThread::currentThread() == thread())
+        created = createAudioPlayer(path);
+    else
+        QMetaObject::invokeMethod(
+            this, [&] { created = createAudioPlayer(path); }, Qt::BlockingQueuedConnection);
+    if (!created) {
+        if (completion)
+            completion(false);
+        return;
+    }
 
     extractWaveformDataWithCompletionHandler(
         [this](std::optional<QList<float>> peaks, float, qint64) {

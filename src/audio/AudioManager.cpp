@@ -1,8 +1,13 @@
 #include "audio/AudioManager.h"
 
+#include "audio/AudioOutput.h"
+#include "audio/AudioPlayer.h"
+#include "common/Clock.h"
 #include "common/NotificationCenter.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
+
+#include <QThreadPool>
 
 #include <algorithm>
 
@@ -13,14 +18,26 @@ AudioManager& AudioManager::sharedInstance()
 }
 
 AudioManager::AudioManager(Defaults& defaults, NotificationCenter& center, QObject* parent)
-    : QObject(parent), m_defaults(defaults), m_center(center)
+    : QObject(parent),
+      m_defaults(defaults),
+      m_center(center),
+      m_clock(&Clock::system()),
+      m_fadeQueue(std::make_unique<QThreadPool>())
 {
+    m_fadeQueue->setObjectName(QStringLiteral("com.audiomanager.fade"));
+    m_fadeQueue->setMaxThreadCount(1);
     qRegisterMetaType<Segment>();
     qRegisterMetaType<SegmentList>();
     loadSettings();
 }
 
-AudioManager::~AudioManager() = default;
+AudioManager::~AudioManager()
+{
+    stopPlayback();
+    m_fadeQueue->waitForDone();
+    for (const auto& ticker : m_tickers)
+        ticker->invalidate();
+}
 
 bool AudioManager::fail(const QString& reason)
 {

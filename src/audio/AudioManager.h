@@ -9,11 +9,17 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 
+class AudioOutput;
+class AudioPlayer;
+class Clock;
 class Defaults;
 class NotificationCenter;
 struct AudioStreamInfo;
+class QThreadPool;
+class Timer;
 
 // The loudness profile of a file: one RMS value per 20 ms analysis frame,
 // with its mean, extremes and spread.
@@ -33,9 +39,11 @@ struct AudioCharacteristics
 // tests construct their own.
 //
 // processAudioFile() may run on any thread (the window runs it on a worker
-// and reads analysisProgress() meanwhile); the waveform hand-back is always
-// delivered on the thread the engine lives on. Properties are not to be read
-// while a load is running.
+// and reads analysisProgress() meanwhile); the player is created, and the
+// waveform hand-back delivered, on the thread the engine lives on, which must
+// not wait for the load meanwhile. Properties are not to be read while a load
+// is running. Everything else, playback included, is called on the engine's
+// thread, where its timers run.
 class AudioManager : public QObject
 {
     Q_OBJECT
@@ -51,8 +59,9 @@ public:
     ~AudioManager() override;
 
     // ---- Loading ----
-    // Analyses, segments and hands back the waveform, then calls the completion
-    // (on the calling thread, before returning) with the outcome.
+    // Analyses, segments, creates the player (set to the current rate) and
+    // hands back the waveform, then calls the completion (on the calling
+    // thread, before returning) with the outcome.
     void processAudioFile(const QString& path, const Completion& completion);
     // Fraction of the current analysis done, 0..1; readable from any thread.
     double analysisProgress() const { return m_progress.load(std::memory_order_relaxed); }
@@ -104,8 +113,57 @@ public:
     void extractWaveformDataWithCompletionHandler(const WaveformHandler& handler);
     const QList<float>& waveformData() const { return m_waveformData; }
 
+    // ---- Playback ----
+    using PlaybackCompletionHandler = std::function<void()>;
+    using OutputFactory = std::function<std::unique_ptr<AudioOutput>()>;
+
+    // Timers come from this clock (the system clock unless a test says otherwise).
+    void setClock(Clock& clock) { m_clock = &clock; }
+    // Makes the device output of each new player (the default device when unset).
+    void setOutputFactory(OutputFactory factory) { m_outputFactory = std::move(factory); }
+    AudioPlayer* audioPlayer() const { return m_audioPlayer.get(); }
+
+    void playSegmentAtIndex(qint64 index);
+    void play();
+    void pause();
+    void stop();
+    void pausePlayback();
+    void resumePlayback();
+    void stopPlayback();
+    bool isPlaying() const;
+    void setPlaybackRate(float rate);
+    void setRepeatTimes(qint64 times);
+    void saveMaxRepeatTimesSetting(qint64 times);
+    void updatePlaybackPosition();
+    void performFadeIn();
+    void closeAudioFile();
+
+    qint64 currentSegmentIndex() const { return m_currentSegmentIndex; }
+    void setCurrentSegmentIndex(qint64 index) { m_currentSegmentIndex = index; }
+    qint64 currentSegmentRepeatedTimes() const { return m_currentSegmentRepeatedTimes; }
+    bool isRepeatMode() const { return m_isRepeatMode; }
+    void setRepeatMode(bool repeat) { m_isRepeatMode = repeat; }
+    bool isPlaybackFinished() const { return m_isPlaybackFinished; }
+    double savedPlaybackPosition() const { return m_savedPlaybackPosition; }
+    void setSavedPlaybackPosition(double seconds) { m_savedPlaybackPosition = seconds; }
+    // Called, later and on the engine's thread, when a segment is over.
+    void setPlaybackCompletionHandler(PlaybackCompletionHandler handler)
+    {
+        m_playbackCompletionHandler = std::move(handler);
+    }
+
+    // The player's reports.
+    void audioPlayerDidFinishPlaying(bool successfully);
+    void audioPlayerDecodeErrorDidOccur(const QString& error);
+
 private:
     bool fail(const QString& reason);
+    bool createAudioPlayer(const QString& path);
+    void cancelPlayTimer();
+    void segmentEndTimerFired();
+    void resumeTimerFired();
+    void deliverPlaybackCompletion();
+    void postStatus(const char* name, int status);
 
     Defaults& m_defaults;
     NotificationCenter& m_center;
@@ -144,4 +202,18 @@ private:
 
     std::atomic<double> m_progress{0.0};
     QString m_lastError;
+
+    // Playback.
+    Clock* m_clock;
+    OutputFactory m_outputFactory;
+    std::unique_ptr<AudioPlayer> m_audioPlayer;
+    std::shared_ptr<Timer> m_playTimer;            // the one timer slot
+    QList<std::shared_ptr<Timer>> m_tickers;       // every position ticker started by play()
+    qint64 m_currentSegmentIndex = 0;
+    qint64 m_currentSegmentRepeatedTimes = 0;
+    bool m_isRepeatMode = true;
+    bool m_isPlaybackFinished = false;
+    double m_savedPlaybackPosition = 0.0;
+    PlaybackCompletionHandler m_playbackCompletionHandler;
+    std::unique_ptr<QThreadPool> m_fadeQueue;
 };

@@ -3,6 +3,7 @@
 
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
+#include "audio/NullAudioOutput.h"
 #include "audio/Segmentation.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
@@ -120,6 +121,9 @@ std::optional<int> load(const LoadOptions& options)
 
     regDefaultPreference(Defaults::standard());
     AudioManager& engine = AudioManager::sharedInstance();
+    // Nothing is played here: the player needs no sound device.
+    engine.setOutputFactory(
+        [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::Manual); });
     if (options.minSegmentDuration)
         engine.setMinSegmentDuration(*options.minSegmentDuration);
     if (options.sensitivity)

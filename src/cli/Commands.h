@@ -12,6 +12,7 @@ int analyze(const QStringList& args);
 int split(const QStringList& args);
 int parseLrc(const QStringList& args);
 int identity(const QStringList& args);
+int play(const QStringList& args);
 
 // Prints "kelmora-cli: message" on stderr.
 void printError(const QString& message);

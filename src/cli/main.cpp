@@ -22,6 +22,7 @@ const Command kCommands[] = {
     {"split", "print the LRC time stamps of an audio file's segments", Cli::split},
     {"parse-lrc", "read a transcript as the application loads it; print texts and segments as JSON", Cli::parseLrc},
     {"identity", "print an audio file's identity and where its transcript is stored", Cli::identity},
+    {"play", "play an audio file, or one segment of it, through the sound device", Cli::play},
 };
 
 void printUsage(FILE* to)

@@ -11,5 +11,24 @@ inline constexpr const char* AudioManagerSegmentsDidUpdate = "AudioManagerSegmen
 // LanguageManager::changeLanguage. No object; userInfo {"language": new code,
 // "oldLanguage": previous code}.
 inline constexpr const char* LanguageDidChangeNotification = "LanguageDidChangeNotification";
+// Playback state. Posted by the engine (AudioManager+Playback) with the engine
+// as object and userInfo {"status": int}: 0 stopped, 1 playing, 2 paused, 3 resumed.
+// play: {"status": 1}.
+inline constexpr const char* AudioPlaying = "AudioPlaying";
+// pause: {"status": 2}; pausePlayback: {"status": 0}.
+inline constexpr const char* AudioPlaybackDidPause = "AudioPlaybackDidPause";
+// resumePlayback: {"status": 3}.
+inline constexpr const char* AudioPlaybackDidResume = "AudioPlaybackDidResume";
+// stop (also from closeAudioFile): {"status": 0}.
+inline constexpr const char* AudioPlayStop = "AudioPlayStop";
+// The engine's position ticker, every 1/12 s. Object: the engine; userInfo
+// {"position": double seconds}.
+inline constexpr const char* AudioPlaybackPositionDidUpdate = "AudioPlaybackPositionDidUpdate";
+// The engine's segment-end timer. Object: bool, false in repeat mode (the
+// completion handler follows), true otherwise (the display should follow the
+// playing position). No userInfo.
+inline constexpr const char* AutoUpdateWavePosDidUpdate = "AutoUpdateWavePosDidUpdate";
+// AudioManager::closeAudioFile, after AudioPlayStop. Object: the engine; no userInfo.
+inline constexpr const char* AudioFileDidClose = "AudioFileDidClose";
 
 } // namespace Notifications

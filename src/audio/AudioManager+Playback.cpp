@@ -1,0 +1,285 @@
+// Segment playback: the player, the one timer slot (segment end, resume or
+// position ticker), the repeat counter and the playback notifications.
+
+#include "audio/AudioManager.h"
+#include "audio/AudioOutput.h"
+#include "audio/AudioPlayer.h"
+#include "common/Clock.h"
+#include "common/NotificationCenter.h"
+#include "common/NotificationNames.h"
+#include "preferences/Defaults.h"
+#include "preferences/PreferenceKeys.h"
+
+#include <QDebug>
+#include <QMetaObject>
+#include <QPointer>
+#include <QThreadPool>
+#include <QVariant>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <thread>
+
+namespace {
+constexpr double kTickerInterval = 1.0 / 12.0;
+constexpr double kEndOfFileTolerance = 0.1;
+constexpr int kFadeSteps = 11;
+} // namespace
+
+bool AudioManager::createAudioPlayer(const QString& path)
+{
+    QString error;
+    std::unique_ptr<AudioOutput> output = m_outputFactory ? m_outputFactory() : nullptr;
+    std::unique_ptr<AudioPlayer> player = AudioPlayer::create(path, std::move(output), &error);
+    if (!player) {
+        qInfo("Error creating audio player: %s", qPrintable(error));
+        m_audioPlayer.reset();
+        fail(QStringLiteral("the audio cannot be played (%1)").arg(error));
+        return false;
+    }
+    m_audioPlayer = std::move(player);
+    connect(m_audioPlayer.get(), &AudioPlayer::didFinishPlaying, this,
+            &AudioManager::audioPlayerDidFinishPlaying);
+    connect(m_audioPlayer.get(), &AudioPlayer::decodeErrorDidOccur, this,
+            &AudioManager::audioPlayerDecodeErrorDidOccur);
+    m_audioPlayer->setEnableRate(true);
+    m_audioPlayer->setRate(m_currentRate);
+    m_audioPlayer->prepareToPlay();
+    return true;
+}
+
+void AudioManager::postStatus(const char* name, int status)
+{
+    m_center.post(name, QVariant::fromValue(this), {{QStringLiteral("status"), status}});
+}
+
+void AudioManager::cancelPlayTimer()
+{
+    if (m_playTimer) {
+        m_playTimer->invalidate();
+        m_playTimer.reset();
+    }
+    m_tickers.removeIf([](const std::shared_ptr<Timer>& t) { return !t->isValid(); });
+}
+
+void AudioManager::playSegmentAtIndex(qint64 index)
+{
+    if (index < 0)
+        return;
+    if (index == 0)
+        m_isPlaybackFinished = false;
+    if (index == m_currentSegmentIndex && isPlaying()) {
+        qInfo("playSegmentAtIndex: self.currentSegmentIndex==index,index=%lu,return",
+              static_cast<unsigned long>(index));
+        return;
+    }
+    if (index >= m_segments.size()) // callers never ask for one; nothing to play
+        return;
+    if (m_isRepeatMode)
+        stopPlayback();
+
+    const Segment segment = m_segments[index];
+    const double start = std::max(segment.start, 0.0);
+    if (m_audioPlayer)
+        m_audioPlayer->setCurrentTime(start);
+    play();
+
+    if (m_isRepeatMode && index == m_currentSegmentIndex)
+        ++m_currentSegmentRepeatedTimes;
+    if (index != m_currentSegmentIndex) {
+        m_currentSegmentRepeatedTimes = 1;
+        m_currentSegmentIndex = index;
+    }
+
+    // The gap after the segment is played too: up to the next one's start.
+    double length = index + 1 < m_segments.size() ? m_segments[index + 1].start - start
+                                                  : segment.duration;
+    length /= static_cast<double>(m_currentRate);
+    // The position ticker that play() stored in the slot is replaced, not
+    // cancelled: it keeps posting positions.
+    QPointer<AudioManager> self(this);
+    m_playTimer = m_clock->scheduledTimer(length, false, [self] {
+        if (self)
+            self->segmentEndTimerFired();
+    });
+}
+
+void AudioManager::segmentEndTimerFired()
+{
+    cancelPlayTimer();
+    if (m_isRepeatMode) {
+        m_center.post(Notifications::AutoUpdateWavePosDidUpdate, QVariant(false));
+        deliverPlaybackCompletion();
+    } else {
+        // The audio plays on into the next segment; the display follows it.
+        m_center.post(Notifications::AutoUpdateWavePosDidUpdate, QVariant(true));
+    }
+}
+
+void AudioManager::deliverPlaybackCompletion()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_playbackCompletionHandler)
+                m_playbackCompletionHandler();
+        },
+        Qt::QueuedConnection);
+}
+
+void AudioManager::play()
+{
+    if (m_audioPlayer)
+        m_audioPlayer->play();
+    cancelPlayTimer();
+    QPointer<AudioManager> self(this);
+    auto ticker = m_clock->scheduledTimer(kTickerInterval, true, [self] {
+        if (self)
+            self->updatePlaybackPosition();
+    });
+    m_tickers.append(ticker);
+    m_playTimer = std::move(ticker);
+    postStatus(Notifications::AudioPlaying, 1);
+}
+
+void AudioManager::pause()
+{
+    if (m_audioPlayer)
+        m_audioPlayer->pause();
+    cancelPlayTimer();
+    postStatus(Notifications::AudioPlaybackDidPause, 2);
+}
+
+void AudioManager::stop()
+{
+    if (m_audioPlayer)
+        m_audioPlayer->stop();
+    cancelPlayTimer();
+    postStatus(Notifications::AudioPlayStop, 0);
+}
+
+void AudioManager::pausePlayback()
+{
+    if (m_audioPlayer)
+        m_audioPlayer->pause();
+    cancelPlayTimer();
+    postStatus(Notifications::AudioPlaybackDidPause, 0);
+}
+
+void AudioManager::stopPlayback()
+{
+    if (m_audioPlayer)
+        m_audioPlayer->stop();
+    cancelPlayTimer();
+}
+
+void AudioManager::resumePlayback()
+{
+    if (m_audioPlayer) {
+        m_audioPlayer->setRate(m_currentRate);
+        m_audioPlayer->play();
+    }
+    if (m_currentSegmentIndex >= 0 && m_currentSegmentIndex < m_segments.size()) {
+        const Segment segment = m_segments[m_currentSegmentIndex];
+        const double now = m_audioPlayer ? m_audioPlayer->currentTime() : 0.0;
+        double length = m_currentSegmentIndex + 1 < m_segments.size()
+                            ? m_segments[m_currentSegmentIndex + 1].start - now
+                            : segment.start + segment.duration - m_savedPlaybackPosition;
+        length /= static_cast<double>(m_currentRate);
+        QPointer<AudioManager> self(this);
+        m_playTimer = m_clock->scheduledTimer(length, false, [self] {
+            if (self)
+                self->resumeTimerFired();
+        });
+    }
+    postStatus(Notifications::AudioPlaybackDidResume, 3);
+}
+
+void AudioManager::resumeTimerFired()
+{
+    // Unlike the segment-end timer this one always stops and always hands
+    // back, in either mode.
+    stopPlayback();
+    deliverPlaybackCompletion();
+}
+
+bool AudioManager::isPlaying() const
+{
+    return m_audioPlayer && m_audioPlayer->isPlaying();
+}
+
+void AudioManager::setPlaybackRate(float rate)
+{
+    if (!m_audioPlayer)
+        return;
+    m_audioPlayer->setEnableRate(true);
+    m_currentRate = std::clamp(rate, AudioPlayer::kMinRate, AudioPlayer::kMaxRate);
+    m_audioPlayer->setRate(m_currentRate);
+}
+
+void AudioManager::setRepeatTimes(qint64 times)
+{
+    m_maxRepeatPlayTimes = static_cast<float>(times);
+}
+
+void AudioManager::saveMaxRepeatTimesSetting(qint64 times)
+{
+    m_maxRepeatPlayTimes = static_cast<float>(times);
+    m_defaults.setInteger(times, PreferenceKeys::MaxRepeatPlayTimes);
+    m_defaults.synchronize();
+}
+
+void AudioManager::updatePlaybackPosition()
+{
+    const double position = m_audioPlayer ? m_audioPlayer->currentTime() : 0.0;
+    if (std::fabs(m_duration - position) < kEndOfFileTolerance)
+        m_isPlaybackFinished = true;
+    m_center.post(Notifications::AudioPlaybackPositionDidUpdate, QVariant::fromValue(this),
+                  {{QStringLiteral("position"), position}});
+}
+
+void AudioManager::performFadeIn()
+{
+    // Eleven steps 10 ms apart on the fade queue; each volume is applied on
+    // the engine's thread, and only while the player is playing. The engine
+    // waits for the queue before it goes away.
+    const auto start = std::chrono::steady_clock::now();
+    m_fadeQueue->start([this, start] {
+        for (int i = 0; i < kFadeSteps; ++i) {
+            std::this_thread::sleep_until(start + std::chrono::milliseconds(10 * i));
+            const float volume = std::min(1.0f, static_cast<float>(i) * 0.1f);
+            QMetaObject::invokeMethod(
+                this,
+                [this, volume] {
+                    if (m_audioPlayer && m_audioPlayer->isPlaying())
+                        m_audioPlayer->setVolume(volume);
+                },
+                Qt::QueuedConnection);
+        }
+    });
+}
+
+void AudioManager::closeAudioFile()
+{
+    stop();
+    cancelPlayTimer();
+    if (m_audioPlayer) {
+        m_audioPlayer->stop();
+        m_audioPlayer.reset();
+    }
+    m_segments.clear();
+    m_waveformData.clear();
+    m_center.post(Notifications::AudioFileDidClose, QVariant::fromValue(this));
+}
+
+void AudioManager::audioPlayerDidFinishPlaying(bool)
+{
+    qInfo("Audio playback finished");
+    m_isPlaybackFinished = true;
+}
+
+void AudioManager::audioPlayerDecodeErrorDidOccur(const QString& error)
+{
+    qInfo("Decode error: %s", qPrintable(error));
+}

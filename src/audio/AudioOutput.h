@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <memory>
+
+// What the player hands out: interleaved 32-bit float frames.
+struct OutputFormat
+{
+    int sampleRate = 44100;
+    int channels = 2;
+};
+
+// The side of the player that the device pulls from. render() runs on the
+// output's own thread and must not block, lock or allocate. It always fills
+// all `frames` frames and returns how many of them are sound; the rest (at
+// the end) is silence.
+class AudioRenderSource
+{
+public:
+    virtual ~AudioRenderSource() = default;
+    virtual qsizetype render(float* out, qsizetype frames) noexcept = 0;
+};
+
+// A sound device. Once started it keeps pulling frames from the source until
+// stopped (silence while the player is paused), so that starting a segment
+// never waits for a device to open.
+class AudioOutput
+{
+public:
+    virtual ~AudioOutput() = default;
+
+    // False when the device cannot be opened; errorString() says why.
+    virtual bool start(const OutputFormat& format, AudioRenderSource* source) = 0;
+    virtual void stop() = 0;
+    // Seconds of audio handed over but not yet heard. Any thread.
+    virtual double latency() const = 0;
+    // True when nothing is actually heard (no device).
+    virtual bool isSilent() const = 0;
+    virtual QString description() const = 0;
+    virtual QString errorString() const = 0;
+
+    // The default device, or a silent real-time output when the machine has
+    // none (said once in the log).
+    static std::unique_ptr<AudioOutput> createDefault();
+};

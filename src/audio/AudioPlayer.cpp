@@ -1,0 +1,173 @@
+#include "audio/AudioPlayer.h"
+
+#include "audio/AudioDecoder.h"
+#include "audio/NullAudioOutput.h"
+
+#include <QDebug>
+#include <QMetaObject>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace {
+// About 0.7 s at 44.1 kHz; the decode thread fills at most 0.25 s of it, so
+// that after a seek there is always room for the new audio at once.
+constexpr qsizetype kRingFrames = 32768;
+} // namespace
+
+std::unique_ptr<AudioPlayer> AudioPlayer::create(const QString& path,
+                                                 std::unique_ptr<AudioOutput> output,
+                                                 QString* error)
+{
+    auto decoder = std::make_unique<AudioDecoder>();
+    if (!decoder->open(path) || !decoder->openCodec()) {
+        if (error)
+            *error = decoder->errorString();
+        return nullptr;
+    }
+    if (!output)
+        output = AudioOutput::createDefault();
+    return std::unique_ptr<AudioPlayer>(new AudioPlayer(path, std::move(decoder), std::move(output)));
+}
+
+AudioPlayer::AudioPlayer(const QString& path, std::unique_ptr<AudioDecoder> decoder,
+                         std::unique_ptr<AudioOutput> output)
+    : m_path(path),
+      m_duration(decoder->info().duration),
+      m_format{static_cast<int>(decoder->info().sampleRate), std::min(decoder->info().channels, 2)},
+      m_decoder(std::move(decoder)),
+      m_output(std::move(output)),
+      m_ring(kRingFrames, m_format.channels)
+{
+    // The decode thread's reports hop to this object's thread; they are
+    // dropped if the player is gone by then.
+    QPointer<AudioPlayer> self(this);
+    PlaybackProducer::Events events;
+    events.reachedEnd = [self](uint32_t seek) {
+        QMetaObject::invokeMethod(self, [self, seek] { if (self) self->onReachedEnd(seek); },
+                                  Qt::QueuedConnection);
+    };
+    events.decodeError = [self](const QString& message) {
+        QMetaObject::invokeMethod(self, [self, message] { if (self) emit self->decodeErrorDidOccur(message); },
+                                  Qt::QueuedConnection);
+    };
+    m_producer = std::make_unique<PlaybackProducer>(*m_decoder, m_ring, m_handed, std::move(events));
+    setCurrentTime(0.0);
+}
+
+AudioPlayer::~AudioPlayer()
+{
+    // The device first, so that nothing reads the ring while it goes away.
+    m_output->stop();
+    m_producer.reset();
+}
+
+bool AudioPlayer::prepareToPlay()
+{
+    if (m_prepared)
+        return true;
+    if (!m_output->start(m_format, this)) {
+        qInfo("Audio output unavailable (%s); playback continues silently",
+              qPrintable(m_output->errorString()));
+        m_output = std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime);
+        m_output->start(m_format, this);
+    }
+    m_prepared = true;
+    return true;
+}
+
+bool AudioPlayer::play()
+{
+    prepareToPlay();
+    m_playing = true;
+    m_audible.store(true, std::memory_order_release);
+    m_producer->setPlaying(true);
+    return true;
+}
+
+void AudioPlayer::pause()
+{
+    if (m_playing)
+        m_floor = currentTime();
+    m_playing = false;
+    m_audible.store(false, std::memory_order_release);
+    m_producer->setPlaying(false);
+}
+
+void AudioPlayer::stop()
+{
+    pause();
+}
+
+double AudioPlayer::currentTime() const
+{
+    const FrameTag handed = m_handed.load();
+    if (!m_playing || handed.seek != m_seekNumber)
+        return m_floor;
+    const double rate = m_enableRate ? static_cast<double>(m_rate) : 1.0;
+    const double heard = handed.position - m_output->latency() * rate;
+    return std::max(heard, m_floor);
+}
+
+void AudioPlayer::setCurrentTime(double seconds)
+{
+    const double target = std::clamp(seconds, 0.0, std::max(m_duration, 0.0));
+    m_floor = target;
+    ++m_seekNumber;
+    m_wantedSeek.store(m_seekNumber, std::memory_order_release);
+    m_producer->requestSeek(target, m_seekNumber);
+}
+
+void AudioPlayer::setEnableRate(bool enable)
+{
+    m_enableRate = enable;
+    applyRate();
+}
+
+void AudioPlayer::setRate(float rate)
+{
+    m_rate = std::clamp(rate, kMinRate, kMaxRate);
+    applyRate();
+}
+
+void AudioPlayer::applyRate()
+{
+    m_producer->requestRate(m_enableRate ? m_rate : 1.0f);
+}
+
+void AudioPlayer::setVolume(float volume)
+{
+    m_volume.store(std::clamp(volume, 0.0f, 1.0f), std::memory_order_relaxed);
+}
+
+void AudioPlayer::onReachedEnd(uint32_t seek)
+{
+    if (seek != m_seekNumber || !m_playing)
+        return;
+    pause();
+    setCurrentTime(0.0);
+    emit didFinishPlaying(true);
+}
+
+qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
+{
+    const auto channels = static_cast<size_t>(m_format.channels);
+    qsizetype copied = 0;
+    if (m_audible.load(std::memory_order_acquire)) {
+        FrameTag last;
+        copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
+                             m_wantedSeek.load(std::memory_order_acquire), &last);
+        if (copied > 0)
+            m_handed.store(last);
+        // Ran dry in the middle of the sound (not before its first frame).
+        if (copied < frames && m_handedSeek == m_wantedSeek.load(std::memory_order_relaxed))
+            m_shortReads.fetch_add(1, std::memory_order_relaxed);
+        if (copied > 0)
+            m_handedSeek = last.seek;
+    } else {
+        m_ring.skipStale();
+    }
+    std::fill(out + static_cast<size_t>(copied) * channels, out + static_cast<size_t>(frames) * channels,
+              0.0f);
+    return copied;
+}

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "audio/AudioOutput.h"
+#include "audio/AudioRingBuffer.h"
+#include "audio/HandedPosition.h"
+#include "audio/PlaybackProducer.h"
+
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <memory>
+
+class AudioDecoder;
+
+// Plays one audio file: play, pause, stop, a current time that can be read and
+// set to the sample, a rate of 0.3 to 3.0 with the pitch kept, and a volume.
+// A decode thread (PlaybackProducer) decodes from the requested position and
+// stretches into a lock-free ring; the output's callback (render) only copies
+// from it. All public functions are for the thread the player lives on; the
+// two signals arrive there too.
+class AudioPlayer : public QObject, private AudioRenderSource
+{
+    Q_OBJECT
+public:
+    static constexpr float kMinRate = 0.3f;
+    static constexpr float kMaxRate = 3.0f;
+
+    // Opens the file for playing through `output` (the default device when
+    // null). Returns null with *error set when the file cannot be played.
+    static std::unique_ptr<AudioPlayer> create(const QString& path,
+                                               std::unique_ptr<AudioOutput> output,
+                                               QString* error);
+    ~AudioPlayer() override;
+
+    QString path() const { return m_path; }
+    double duration() const { return m_duration; }
+    const OutputFormat& format() const { return m_format; }
+    AudioOutput* output() const { return m_output.get(); }
+
+    // Starts the output device, so that play() starts at once. Falls back to a
+    // silent output when the device cannot be opened. play() calls it if needed.
+    bool prepareToPlay();
+    bool play();
+    void pause();
+    // As pause(); the position is kept.
+    void stop();
+    bool isPlaying() const { return m_playing; }
+
+    // The source position, in seconds, of what is being heard now.
+    double currentTime() const;
+    // Moves to `seconds`; the next sound heard is the sample at that time.
+    void setCurrentTime(double seconds);
+
+    // The rate is applied only while rate control is enabled.
+    void setEnableRate(bool enable);
+    bool enableRate() const { return m_enableRate; }
+    // Clamped to 0.3..3.0. Changes take effect at once, also while playing.
+    void setRate(float rate);
+    float rate() const { return m_rate; }
+
+    void setVolume(float volume);
+    float volume() const { return m_volume.load(std::memory_order_relaxed); }
+
+    // For tests and benchmarks: the frame the device took last, and when the
+    // first frame after the last seek entered the ring.
+    FrameTag handedFrame() const { return m_handed.load(); }
+    uint32_t seekNumber() const { return m_seekNumber; }
+    // How often the device found the ring empty while sound was playing (the
+    // end of the file counts once).
+    int shortReads() const { return m_shortReads.load(std::memory_order_relaxed); }
+    PlaybackProducer::SeekTiming lastSeekTiming() const { return m_producer->lastSeekTiming(); }
+
+signals:
+    // The end of the file was played (the position returns to 0).
+    void didFinishPlaying(bool successfully);
+    void decodeErrorDidOccur(const QString& message);
+
+private:
+    AudioPlayer(const QString& path, std::unique_ptr<AudioDecoder> decoder,
+                std::unique_ptr<AudioOutput> output);
+    qsizetype render(float* out, qsizetype frames) noexcept override;
+    void applyRate();
+    void onReachedEnd(uint32_t seek);
+
+    QString m_path;
+    double m_duration = 0.0;
+    OutputFormat m_format;
+    std::unique_ptr<AudioDecoder> m_decoder;
+    std::unique_ptr<AudioOutput> m_output;
+    AudioRingBuffer m_ring;
+    HandedPosition m_handed;
+    std::unique_ptr<PlaybackProducer> m_producer;
+
+    bool m_prepared = false;
+    bool m_playing = false;
+    bool m_enableRate = false;
+    float m_rate = 1.0f;
+    uint32_t m_seekNumber = 0;
+    double m_floor = 0.0; // currentTime() never reports less until the device moves on
+
+    // Read by the device callback.
+    std::atomic<bool> m_audible{false};
+    std::atomic<uint32_t> m_wantedSeek{0};
+    std::atomic<int> m_shortReads{0};
+    uint32_t m_handedSeek = 0; // device callback only
+    std::atomic<float> m_volume{1.0f};
+};

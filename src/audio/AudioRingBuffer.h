@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+// Where a frame in the ring came from: the seek request it descends from and
+// its position in the source, in seconds. The output side publishes the tag
+// of what it last handed to the device, which is how the player knows what is
+// being heard.
+struct FrameTag
+{
+    uint32_t seek = 0;
+    double position = 0.0;
+};
+
+// A single-producer single-consumer ring of interleaved float frames, each
+// with a FrameTag. The producer (decode thread) writes, the consumer (the
+// device callback) reads; neither ever blocks, locks or allocates. Indices
+// grow without wrapping; the slot of index i is i modulo the capacity.
+//
+// A flush is requested by the producer: every frame written before it is
+// stale and the consumer skips over it at its next read. The producer never
+// overwrites a slot the consumer may still be reading, so after a flush new
+// frames only go into space the consumer has already released; the producer
+// therefore keeps the ring well below full (see fillTarget in the player).
+class AudioRingBuffer
+{
+public:
+    // The capacity is rounded up to a power of two.
+    AudioRingBuffer(qsizetype capacityFrames, int channels);
+
+    int channels() const { return m_channels; }
+    qsizetype capacity() const { return static_cast<qsizetype>(m_mask + 1); }
+
+    // ---- Producer side ----
+    // Frames the producer may write now.
+    qsizetype writableFrames() const;
+    // Frames written since the last flush and not yet read.
+    qsizetype pendingFrames() const;
+    // Writes n frames; frame i gets the position first + i * step. n must not
+    // exceed writableFrames().
+    void write(const float* interleaved, qsizetype n, uint32_t seek, double first, double step);
+    // Marks everything written so far as stale.
+    void flush();
+    uint64_t writeIndex() const { return m_write.load(std::memory_order_relaxed); }
+    uint64_t readIndex() const { return m_read.load(std::memory_order_acquire); }
+
+    // ---- Consumer side ----
+    // Skips stale frames and frames of any seek but `seek` (audio queued
+    // before the newest seek must not be heard once it is asked for), then
+    // copies up to n frames of that seek, scaled by gain, into out. Returns
+    // the number copied; *last gets the tag of the last one copied.
+    qsizetype read(float* out, qsizetype n, float gain, uint32_t seek, FrameTag* last) noexcept;
+    // Applies a pending flush without reading (used while paused).
+    void skipStale() noexcept;
+
+private:
+    int m_channels;
+    uint64_t m_mask;
+    std::unique_ptr<float[]> m_samples;
+    std::unique_ptr<FrameTag[]> m_tags;
+    alignas(64) std::atomic<uint64_t> m_write{0};
+    alignas(64) std::atomic<uint64_t> m_read{0};
+    alignas(64) std::atomic<uint64_t> m_flushIndex{0};
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "audio/AudioRingBuffer.h"
+
+#include <atomic>
+#include <cstdint>
+
+// The tag of the frame the device callback handed out last, published by the
+// callback (the only writer) and read by any thread. A sequence lock: the
+// writer never waits; a reader retries in the rare case it overlapped a write.
+class HandedPosition
+{
+public:
+    void store(const FrameTag& tag) noexcept
+    {
+        const uint32_t v = m_version.load(std::memory_order_relaxed);
+        m_version.store(v + 1, std::memory_order_relaxed);
+        std::atomic_thread_fence(std::memory_order_release);
+        m_seek.store(tag.seek, std::memory_order_relaxed);
+        m_position.store(tag.position, std::memory_order_relaxed);
+        m_version.store(v + 2, std::memory_order_release);
+    }
+
+    FrameTag load() const noexcept
+    {
+        for (;;) {
+            const uint32_t before = m_version.load(std::memory_order_acquire);
+            const FrameTag tag{m_seek.load(std::memory_order_relaxed),
+                               m_position.load(std::memory_order_relaxed)};
+            std::atomic_thread_fence(std::memory_order_acquire);
+            if ((before & 1u) == 0 && m_version.load(std::memory_order_relaxed) == before)
+                return tag;
+        }
+    }
+
+private:
+    std::atomic<uint32_t> m_version{0};
+    std::atomic<uint32_t> m_seek{0};
+    std::atomic<double> m_position{0.0};
+};

@@ -1,0 +1,336 @@
+#include "audio/PlaybackProducer.h"
+
+#include "audio/AudioDecoder.h"
+#include "audio/FourCC.h"
+#include "audio/HandedPosition.h"
+#include "audio/TimeStretcher.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace {
+
+constexpr qsizetype kBlock = 1024;    // frames per stretcher call
+constexpr qsizetype kMinChunk = 256;  // smallest write worth waking for
+
+int64_t steadyNs()
+{
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+// How much earlier than a target the decoder must start so that the samples
+// at the target are exact: MP3 needs its bit reservoir and overlap (22 kHz VBR
+// needs more than 0.3 s), AAC its overlap; the others decode each frame alone.
+double runInFor(uint32_t formatID)
+{
+    switch (formatID) {
+    case FourCC::MP3:
+        return 1.0;
+    case FourCC::AAC:
+        return 0.1;
+    default:
+        return 0.0;
+    }
+}
+
+} // namespace
+
+PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
+                                   const HandedPosition& handed, Events events)
+    : m_decoder(decoder),
+      m_ring(ring),
+      m_handed(handed),
+      m_events(std::move(events)),
+      m_sampleRate(decoder.info().sampleRate),
+      m_sourceChannels(decoder.info().channels),
+      m_channels(ring.channels()),
+      m_streamStart(decoder.info().startTime),
+      m_runIn(runInFor(decoder.info().formatID)),
+      m_fillTarget(std::min<qsizetype>(ring.capacity() / 2,
+                                       static_cast<qsizetype>(0.25 * m_sampleRate))),
+      m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
+                                                  static_cast<int>(kBlock))),
+      m_stretched(static_cast<size_t>(kBlock * m_channels))
+{
+    m_thread = std::thread([this] { run(); });
+}
+
+PlaybackProducer::~PlaybackProducer()
+{
+    m_quit.store(true);
+    wake();
+    m_thread.join();
+}
+
+void PlaybackProducer::requestSeek(double seconds, uint32_t seek)
+{
+    m_seekTarget.store(seconds, std::memory_order_relaxed);
+    m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
+    wake();
+}
+
+void PlaybackProducer::requestRate(float rate)
+{
+    m_rateRequest.store(rate, std::memory_order_release);
+    wake();
+}
+
+void PlaybackProducer::setPlaying(bool playing)
+{
+    m_playing.store(playing, std::memory_order_release);
+    wake();
+}
+
+PlaybackProducer::SeekTiming PlaybackProducer::lastSeekTiming() const
+{
+    // The time is stored before the seek number, so a matching number
+    // guarantees the time belongs to it.
+    const uint32_t seek = m_timedSeek.load(std::memory_order_acquire);
+    return {seek, m_timedNs.load(std::memory_order_relaxed)};
+}
+
+void PlaybackProducer::wake()
+{
+    {
+        std::lock_guard lock(m_wakeMutex);
+        m_woken = true;
+    }
+    m_wakeCondition.notify_one();
+}
+
+void PlaybackProducer::run()
+{
+    while (!m_quit.load(std::memory_order_acquire)) {
+        readMailbox();
+        if (produce())
+            continue;
+        if (!m_indexed && m_positioned && !m_inputDone && !m_finished) {
+            buildIndex();
+            continue;
+        }
+        const auto period = m_playing.load(std::memory_order_relaxed) ? std::chrono::milliseconds(4)
+                                                                      : std::chrono::milliseconds(40);
+        std::unique_lock lock(m_wakeMutex);
+        m_wakeCondition.wait_for(lock, period, [this] { return m_woken; });
+        m_woken = false;
+    }
+}
+
+void PlaybackProducer::buildIndex()
+{
+    // A file without a seek table (MP3, ADTS AAC) is indexed by reading its
+    // packets up to the point sought, which for a long file takes tens of
+    // milliseconds. Done once for the whole file, the first time the ring is
+    // full, every later seek is fast. Decoding then resumes exactly where it
+    // stood, the way a seek does.
+    m_indexed = true;
+    const double duration = m_decoder.info().duration;
+    if (duration <= 0.0)
+        return;
+    const int64_t resume = m_nextFrame;
+    const double from = std::max(double(resume) / m_sampleRate - m_runIn, 0.0);
+    m_decoder.seek(m_streamStart + duration);
+    if (!m_decoder.seek(m_streamStart + from)) {
+        m_positioned = false;
+        return;
+    }
+    m_dropUntil = resume;
+    m_nextFrame = std::llround(from * m_sampleRate);
+    m_needTimestamp = true;
+}
+
+void PlaybackProducer::readMailbox()
+{
+    const uint64_t request = m_seekRequest.load(std::memory_order_acquire);
+    const float rate = m_rateRequest.load(std::memory_order_acquire);
+    const bool rateChanged = rate != m_rate;
+    m_rate = rate;
+    if (request != m_seenRequest) {
+        m_seenRequest = request;
+        seekTo(m_seekTarget.load(std::memory_order_relaxed), static_cast<uint32_t>(request >> 1));
+    } else if (rateChanged && m_positioned) {
+        // Carry on from the frame the device took last, at the new rate; what
+        // the ring holds at the old rate is dropped.
+        const FrameTag handed = m_handed.load();
+        const double from = handed.seek == m_seek ? handed.position + 1.0 / m_sampleRate : m_target;
+        seekTo(from, m_seek);
+    }
+}
+
+void PlaybackProducer::seekTo(double seconds, uint32_t seek)
+{
+    m_ring.flush();
+    m_seek = seek;
+    m_target = std::max(seconds, 0.0);
+    m_dropUntil = std::llround(m_target * m_sampleRate);
+    m_pendingFrames = m_pendingOffset = 0;
+    m_needTimestamp = true;
+    m_inputDone = false;
+    m_finished = false;
+    m_endReported = false;
+    m_firstWritten = false;
+    m_errorReported = false;
+    m_skippedSeen = m_decoder.skippedPackets();
+    const double from = std::max(m_target - m_runIn, 0.0);
+    m_nextFrame = std::llround(from * m_sampleRate);
+    if (!m_decoder.seek(m_streamStart + from)) {
+        m_positioned = false;
+        if (m_events.decodeError)
+            m_events.decodeError(m_decoder.errorString());
+        return;
+    }
+    if (m_rate != 1.0f) {
+        m_stretcher->reset(static_cast<double>(m_rate));
+        std::fill(m_stretched.begin(), m_stretched.end(), 0.0f);
+        for (qsizetype pad = m_stretcher->startPad(); pad > 0; pad -= kBlock)
+            m_stretcher->process(m_stretched.data(), std::min(pad, kBlock), false);
+        m_dropOutput = m_stretcher->startDelay();
+        m_outPosition = m_target;
+    }
+    m_positioned = true;
+}
+
+bool PlaybackProducer::produce()
+{
+    if (!m_positioned)
+        return false;
+    if (m_finished) {
+        if (!m_endReported && m_ring.readIndex() >= m_endIndex) {
+            m_endReported = true;
+            if (m_events.reachedEnd)
+                m_events.reachedEnd(m_seek);
+        }
+        return false;
+    }
+    const qsizetype room = std::min(m_ring.writableFrames(), m_fillTarget - m_ring.pendingFrames());
+    if (room < kMinChunk)
+        return false;
+    return m_rate == 1.0f ? produceDirect(room) : produceStretched(room);
+}
+
+bool PlaybackProducer::produceDirect(qsizetype room)
+{
+    if (m_pendingOffset == m_pendingFrames && !decodeNext()) {
+        finish();
+        return true;
+    }
+    const qsizetype n = std::min(room, m_pendingFrames - m_pendingOffset);
+    writeToRing(m_pending.data() + m_pendingOffset * m_channels, n,
+                double(m_pendingStart + m_pendingOffset) / m_sampleRate, 1.0 / m_sampleRate);
+    m_pendingOffset += n;
+    return true;
+}
+
+bool PlaybackProducer::produceStretched(qsizetype room)
+{
+    while (!m_inputDone && m_stretcher->available() < kBlock) {
+        if (m_pendingOffset == m_pendingFrames && !decodeNext()) {
+            m_inputDone = true;
+            m_stretcher->process(nullptr, 0, true);
+            break;
+        }
+        const qsizetype n = std::min(kBlock, m_pendingFrames - m_pendingOffset);
+        m_stretcher->process(m_pending.data() + m_pendingOffset * m_channels, n, false);
+        m_pendingOffset += n;
+    }
+    const qsizetype available = m_stretcher->available();
+    if (available <= 0) {
+        if (m_inputDone)
+            finish();
+        return m_inputDone;
+    }
+    const qsizetype got = m_stretcher->retrieve(m_stretched.data(), std::min(available, room));
+    const qsizetype dropped = std::min(m_dropOutput, got);
+    m_dropOutput -= dropped;
+    qsizetype keep = got - dropped;
+    // Each output frame stands for `rate` source frames. The stretcher's own
+    // output length at the end is not exact, so the end is cut by position.
+    const double step = static_cast<double>(m_rate) / m_sampleRate;
+    if (m_inputDone && m_sourceEnd >= 0) {
+        const double end = double(m_sourceEnd) / m_sampleRate;
+        const double left = std::ceil((end - m_outPosition) / step);
+        keep = std::clamp<qsizetype>(static_cast<qsizetype>(std::max(left, 0.0)), 0, keep);
+        if (keep < got - dropped) {
+            writeToRing(m_stretched.data() + dropped * m_channels, keep, m_outPosition, step);
+            finish();
+            return true;
+        }
+    }
+    writeToRing(m_stretched.data() + dropped * m_channels, keep, m_outPosition, step);
+    m_outPosition += double(keep) * step;
+    return true;
+}
+
+bool PlaybackProducer::decodeNext()
+{
+    for (;;) {
+        const AudioDecoder::ReadResult result = m_decoder.readNext();
+        if (m_decoder.skippedPackets() != m_skippedSeen) {
+            m_skippedSeen = m_decoder.skippedPackets();
+            if (!m_errorReported && m_events.decodeError) {
+                m_errorReported = true;
+                m_events.decodeError(QStringLiteral("undecodable audio data skipped"));
+            }
+        }
+        if (result == AudioDecoder::ReadResult::EndOfStream) {
+            m_sourceEnd = m_nextFrame;
+            return false;
+        }
+        if (result == AudioDecoder::ReadResult::Error) {
+            m_sourceEnd = m_nextFrame;
+            if (m_events.decodeError)
+                m_events.decodeError(m_decoder.errorString());
+            return false;
+        }
+        const DecodedBuffer& buffer = m_decoder.buffer();
+        const qsizetype frames = buffer.frames();
+        if (m_needTimestamp) {
+            // The first buffer after a seek says where it starts; from there on
+            // frames are counted. A first frame dated before the stream start
+            // is the file's first frame, whose delay the codec has trimmed.
+            m_needTimestamp = false;
+            const double start = buffer.startTime();
+            if (start >= 0.0)
+                m_nextFrame = std::max<int64_t>(std::llround((start - m_streamStart) * m_sampleRate), 0);
+        }
+        const int64_t first = m_nextFrame;
+        m_nextFrame += frames;
+        const qsizetype skip = static_cast<qsizetype>(std::clamp<int64_t>(m_dropUntil - first, 0, frames));
+        if (skip == frames)
+            continue;
+
+        const qsizetype kept = frames - skip;
+        m_channel.resize(static_cast<size_t>(frames));
+        m_pending.resize(static_cast<size_t>(kept * m_channels));
+        for (int c = 0; c < m_channels; ++c) {
+            buffer.channelAsFloat(std::min(c, m_sourceChannels - 1), m_channel.data());
+            for (qsizetype i = 0; i < kept; ++i)
+                m_pending[static_cast<size_t>(i * m_channels + c)] = m_channel[static_cast<size_t>(skip + i)];
+        }
+        m_pendingStart = first + skip;
+        m_pendingFrames = kept;
+        m_pendingOffset = 0;
+        return true;
+    }
+}
+
+void PlaybackProducer::finish()
+{
+    m_finished = true;
+    m_endIndex = m_ring.writeIndex();
+}
+
+void PlaybackProducer::writeToRing(const float* frames, qsizetype n, double first, double step)
+{
+    if (n <= 0)
+        return;
+    m_ring.write(frames, n, m_seek, first, step);
+    if (!m_firstWritten) {
+        m_firstWritten = true;
+        m_timedNs.store(steadyNs(), std::memory_order_relaxed);
+        m_timedSeek.store(m_seek, std::memory_order_release);
+    }
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "audio/AudioOutput.h"
+
+#include <QThread>
+
+#include <atomic>
+#include <memory>
+
+class QAudioSink;
+class QIODevice;
+class QTimer;
+
+// The default sound device through Qt Multimedia's QAudioSink in pull mode.
+// The sink lives on a thread of its own, so a busy window never starves it;
+// its read callback is the player's render(), which only copies.
+class QtAudioOutput : public AudioOutput
+{
+public:
+    // Qt 6.4 never starts a pull-mode sink whose buffer is 50 ms or less; at
+    // 120 ms a machine busy with other work already starves it now and then.
+    static constexpr double kBufferSeconds = 0.2;
+
+    QtAudioOutput();
+    ~QtAudioOutput() override;
+
+    // True when the machine reports a default output device.
+    static bool deviceAvailable();
+
+    bool start(const OutputFormat& format, AudioRenderSource* source) override;
+    void stop() override;
+    double latency() const override { return m_latency.load(std::memory_order_relaxed); }
+    bool isSilent() const override { return false; }
+    QString description() const override { return m_description; }
+    QString errorString() const override { return m_error; }
+
+private:
+    void openOnThread(const OutputFormat& format, AudioRenderSource* source, bool* ok);
+    void closeOnThread();
+
+    QThread m_thread;
+    QObject* m_host = nullptr; // lives on m_thread; owns the sink, device and timer
+    QAudioSink* m_sink = nullptr;
+    QIODevice* m_device = nullptr;
+    QTimer* m_latencyTimer = nullptr;
+    int m_bytesPerSecond = 0;
+    std::atomic<double> m_latency{kBufferSeconds};
+    QString m_description;
+    QString m_error;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
+
+// A private PulseAudio server with one null sink ("testsink", 48 kHz stereo)
+// for tests that need real sound, and a recorder of the sink's monitor. Every
+// process it starts is stopped by its PID when it goes away.
+class PulseServer
+{
+public:
+    // Starts the server and points this process (PULSE_SERVER) at it. Returns
+    // null with *whyNot set when no server can run here.
+    static std::unique_ptr<PulseServer> start(QString* whyNot);
+    ~PulseServer();
+
+    QString address() const { return m_address; }
+
+    // Records the monitor as 16-bit mono at 48 kHz into a file.
+    bool startRecording(QString* whyNot);
+    // Stops the recorder and returns what it captured, as floats in -1..1.
+    std::vector<float> stopRecording();
+
+private:
+    PulseServer() = default;
+    void stopProcess(QProcess& process);
+
+    QTemporaryDir m_dir;
+    QString m_address;
+    qint64 m_daemonPid = 0;
+    QProcess m_silence;  // keeps the sink from idling: its first stream would stall
+    QProcess m_recorder;
+    QString m_capturePath;
+    QElapsedTimer m_recordingSince;
+    qint64 m_bytesAtStart = 0;
+};
