@@ -47,9 +47,14 @@ void AudioManager::printSliencSegment(const QList<Silence>& silences,
 
 void AudioManager::processAudioFile(const QString& path, const Completion& completion)
 {
+    const bool onEngineThread = QThread::currentThread() == thread();
     if (!analyzeAudioCharacteristics(path)) {
-        if (completion)
+        if (!completion)
+            return;
+        if (onEngineThread)
             completion(false);
+        else
+            QMetaObject::invokeMethod(this, [completion] { completion(false); }, Qt::QueuedConnection);
         return;
     }
     calculateAdaptiveThresholds();
@@ -57,26 +62,28 @@ void AudioManager::processAudioFile(const QString& path, const Completion& compl
     Segmentation::applyLoadFixups(m_segments, m_duration);
 
     // The player belongs to the engine's thread, where it is used and where
-    // its reports arrive; a load running on a worker hands this step over.
-    bool created = false;
-    if (QThread::currentThread() == thread())
-        created = createAudioPlayer(path);
-    else
-        QMetaObject::invokeMethod(
-            this, [&] { created = createAudioPlayer(path); }, Qt::BlockingQueuedConnection);
-    if (!created) {
+    // its reports arrive. A load running on a worker hands the rest over
+    // without waiting for it (the engine's thread may itself be waiting for the
+    // worker), and the completion then runs on the engine's thread, whatever
+    // the outcome.
+    auto finish = [this, path, completion] {
+        if (!createAudioPlayer(path)) {
+            if (completion)
+                completion(false);
+            return;
+        }
+        extractWaveformDataWithCompletionHandler(
+            [this](std::optional<QList<float>> peaks, float, qint64) {
+                if (peaks)
+                    m_waveformData = std::move(*peaks);
+            });
         if (completion)
-            completion(false);
-        return;
-    }
-
-    extractWaveformDataWithCompletionHandler(
-        [this](std::optional<QList<float>> peaks, float, qint64) {
-            if (peaks)
-                m_waveformData = std::move(*peaks);
-        });
-    if (completion)
-        completion(true);
+            completion(true);
+    };
+    if (onEngineThread)
+        finish();
+    else
+        QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
 }
 
 bool AudioManager::updateSegments(const SegmentList& segments)

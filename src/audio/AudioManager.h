@@ -39,10 +39,9 @@ struct AudioCharacteristics
 // tests construct their own.
 //
 // processAudioFile() may run on any thread (the window runs it on a worker
-// and reads analysisProgress() meanwhile); the player is created, and the
-// waveform hand-back delivered, on the thread the engine lives on, which must
-// not wait for the load meanwhile. Properties are not to be read while a load
-// is running. Everything else, playback included, is called on the engine's
+// and reads analysisProgress() meanwhile); the player is created, the
+// completion called and the waveform handed back on the thread the engine
+// lives on. Properties are not to be read while a load is running. Everything else, playback included, is called on the engine's
 // thread, where its timers run.
 class AudioManager : public QObject
 {
@@ -60,8 +59,10 @@ public:
 
     // ---- Loading ----
     // Analyses, segments, creates the player (set to the current rate) and
-    // hands back the waveform, then calls the completion (on the calling
-    // thread, before returning) with the outcome.
+    // hands back the waveform, then calls the completion with the outcome. On
+    // the engine's thread all of it happens before this returns; on another
+    // thread the analysis does, and the rest, completion included, is queued
+    // to the engine's thread.
     void processAudioFile(const QString& path, const Completion& completion);
     // Fraction of the current analysis done, 0..1; readable from any thread.
     double analysisProgress() const { return m_progress.load(std::memory_order_relaxed); }

@@ -244,13 +244,31 @@ TEST_F(AudioManagerAnalysis, LoadsOnAWorkerWhileTheMainThreadWatchesProgress)
         QThread::yieldCurrentThread();
     }
     worker->wait();
-    ASSERT_TRUE(ok);
-    EXPECT_EQ(completedOn, worker.get());
     EXPECT_EQ(engine.analysisProgress(), 1.0);
     EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
 
-    // The peaks come back on the engine's own (this) thread.
-    EXPECT_TRUE(engine.waveformData().isEmpty());
+    // The player, the completion and then the peaks come on the engine's own
+    // (this) thread, once its event loop runs.
+    EXPECT_EQ(completedOn, nullptr);
+    TestSupport::processEvents();
+    ASSERT_TRUE(ok);
+    EXPECT_EQ(completedOn, QThread::currentThread());
     TestSupport::processEvents();
     EXPECT_FALSE(engine.waveformData().isEmpty());
+
+    // A failed load also completes on the engine's thread.
+    completedOn = nullptr;
+    ok = true;
+    std::unique_ptr<QThread> failing(QThread::create([&] {
+        engine.processAudioFile(fixture("text.mp3"), [&](bool success) {
+            ok = success;
+            completedOn = QThread::currentThread();
+        });
+    }));
+    failing->start();
+    failing->wait();
+    EXPECT_EQ(completedOn, nullptr);
+    TestSupport::processEvents();
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(completedOn, QThread::currentThread());
 }

@@ -370,19 +370,25 @@ TEST_F(PlaybackEngine, ALoadOnAWorkerThreadCreatesThePlayerOnTheEnginesThread)
 {
     std::atomic<int> result{-1};
     std::atomic<bool> returned{false};
+    QThread* completedOn = nullptr;
+    // The main thread waits for the worker without running its event loop,
+    // as a window closing during a load would: the load must not need it.
     std::thread worker([&] {
         engine->processAudioFile(fixture("speech.flac"), [&](bool ok) {
-            EXPECT_FALSE(returned.load());
+            EXPECT_TRUE(returned.load());
+            completedOn = QThread::currentThread();
             result = ok ? 1 : 0;
         });
         returned = true;
     });
+    worker.join();
+    EXPECT_EQ(result.load(), -1);
     QElapsedTimer waited;
     waited.start();
-    while (!returned && waited.elapsed() < 20000)
+    while (result == -1 && waited.elapsed() < 20000)
         TestSupport::processEvents();
-    worker.join();
     EXPECT_EQ(result.load(), 1);
+    EXPECT_EQ(completedOn, engine->thread());
     ASSERT_TRUE(engine->audioPlayer());
     EXPECT_EQ(engine->audioPlayer()->thread(), engine->thread());
     EXPECT_TRUE(engine->audioPlayer()->path().endsWith("speech.flac"));
