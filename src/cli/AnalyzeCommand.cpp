@@ -5,6 +5,7 @@
 #include "audio/AudioManager.h"
 #include "audio/NullAudioOutput.h"
 #include "audio/Segmentation.h"
+#include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "preferences/DefaultPreferences.h"
@@ -19,17 +20,6 @@
 #include <optional>
 
 namespace {
-
-bool g_verbose = false;
-
-void quietMessageHandler(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if (type == QtInfoMsg || type == QtDebugMsg) {
-        if (!g_verbose)
-            return;
-    }
-    std::fprintf(stderr, "%s\n", qPrintable(message));
-}
 
 struct LoadOptions
 {
@@ -46,7 +36,6 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
-    parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
     const QCommandLineOption minSegment(
         QStringLiteral("min-segment-duration"),
@@ -58,28 +47,12 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
         QStringLiteral("N"));
     const QCommandLineOption rms(QStringLiteral("rms"),
                                  QStringLiteral("include every 20 ms loudness value"));
-    const QCommandLineOption verbose(QStringLiteral("verbose"),
-                                     QStringLiteral("print the engine's diagnostic log on stderr"));
     parser.addOption(minSegment);
     parser.addOption(sensitivity);
     if (withRms)
         parser.addOption(rms);
-    parser.addOption(verbose);
-
-    if (!parser.parse(QStringList{QStringLiteral("kelmora-cli ") + command} + args)) {
-        Cli::printError(parser.errorText());
-        return Cli::UsageError;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return Cli::Success;
-    }
-    const QStringList positional = parser.positionalArguments();
-    if (positional.size() != 1) {
-        Cli::printError(QStringLiteral("%1 takes exactly one audio file").arg(command));
-        return Cli::UsageError;
-    }
-    out.path = positional.first();
+    if (auto code = Cli::parseCommandLine(parser, command, args, QStringLiteral("audio file"), out.path))
+        return code;
     if (parser.isSet(minSegment)) {
         bool ok = false;
         const double value = parser.value(minSegment).toDouble(&ok);
@@ -99,7 +72,6 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
         out.sensitivity = value;
     }
     out.rms = withRms && parser.isSet(rms);
-    g_verbose = parser.isSet(verbose);
     return std::nullopt;
 }
 
@@ -107,17 +79,8 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
 // overridden by the options. Returns an exit code on failure.
 std::optional<int> load(const LoadOptions& options)
 {
-    qInstallMessageHandler(quietMessageHandler);
-    AudioDecoder::setLibraryLogging(g_verbose);
-    const QFileInfo file(options.path);
-    if (!file.exists()) {
-        Cli::printError(QStringLiteral("%1: no such file").arg(options.path));
-        return Cli::Failure;
-    }
-    if (!file.isFile()) {
-        Cli::printError(QStringLiteral("%1: not a file").arg(options.path));
-        return Cli::Failure;
-    }
+    if (auto code = Cli::requireFile(options.path))
+        return code;
 
     regDefaultPreference(Defaults::standard());
     AudioManager& engine = AudioManager::sharedInstance();
@@ -152,11 +115,6 @@ Json segmentsJson(const SegmentList& segments)
 } // namespace
 
 namespace Cli {
-
-void printError(const QString& message)
-{
-    std::fprintf(stderr, "kelmora-cli: %s\n", qPrintable(message));
-}
 
 int analyze(const QStringList& args)
 {

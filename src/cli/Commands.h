@@ -14,7 +14,4 @@ int parseLrc(const QStringList& args);
 int identity(const QStringList& args);
 int play(const QStringList& args);
 
-// Prints "kelmora-cli: message" on stderr.
-void printError(const QString& message);
-
 } // namespace Cli

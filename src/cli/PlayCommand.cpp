@@ -5,6 +5,7 @@
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
+#include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "common/NotificationCenter.h"
 #include "preferences/DefaultPreferences.h"
@@ -24,18 +25,10 @@
 namespace {
 
 std::atomic<bool> g_interrupted{false};
-bool g_verbose = false;
 
 void onInterrupt(int)
 {
     g_interrupted.store(true);
-}
-
-void messageHandler(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if ((type == QtInfoMsg || type == QtDebugMsg) && !g_verbose)
-        return;
-    std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
 struct PlayOptions
@@ -52,7 +45,6 @@ std::optional<int> parseOptions(const QStringList& args, PlayOptions& out)
     parser.setApplicationDescription(QStringLiteral(
         "Plays an audio file through the default sound device: the whole file, or one segment\n"
         "a number of times (the segments are the ones 'analyze' prints, counted from 0)."));
-    parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
     const QCommandLineOption segment(QStringLiteral("segment"),
                                      QStringLiteral("play only segment N"), QStringLiteral("N"));
@@ -62,24 +54,10 @@ std::optional<int> parseOptions(const QStringList& args, PlayOptions& out)
     const QCommandLineOption repeat(QStringLiteral("repeat"),
                                     QStringLiteral("play the segment K times (default 1)"),
                                     QStringLiteral("K"));
-    const QCommandLineOption verbose(QStringLiteral("verbose"),
-                                     QStringLiteral("print the engine's diagnostic log on stderr"));
-    parser.addOptions({segment, rate, repeat, verbose});
-    if (!parser.parse(QStringList{QStringLiteral("kelmora-cli play")} + args)) {
-        Cli::printError(parser.errorText());
-        return Cli::UsageError;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return Cli::Success;
-    }
-    const QStringList positional = parser.positionalArguments();
-    if (positional.size() != 1) {
-        Cli::printError(QStringLiteral("play takes exactly one audio file"));
-        return Cli::UsageError;
-    }
-    out.path = positional.first();
-    g_verbose = parser.isSet(verbose);
+    parser.addOptions({segment, rate, repeat});
+    if (auto code = Cli::parseCommandLine(parser, QStringLiteral("play"), args,
+                                          QStringLiteral("audio file"), out.path))
+        return code;
     bool ok = true;
     if (parser.isSet(segment)) {
         out.segment = parser.value(segment).toLongLong(&ok);
@@ -116,12 +94,8 @@ int Cli::play(const QStringList& args)
     PlayOptions options;
     if (const std::optional<int> exit = parseOptions(args, options))
         return *exit;
-    qInstallMessageHandler(messageHandler);
-    AudioDecoder::setLibraryLogging(g_verbose);
-    if (!QFileInfo(options.path).isFile()) {
-        Cli::printError(QStringLiteral("%1: no such file").arg(options.path));
-        return Cli::Failure;
-    }
+    if (const std::optional<int> exit = Cli::requireFile(options.path))
+        return *exit;
 
     regDefaultPreference(Defaults::standard());
     AudioManager engine(Defaults::standard(), NotificationCenter::defaultCenter());

@@ -1,6 +1,7 @@
 // kelmora-cli parse-lrc / identity: the transcript store without the window.
 
 #include "app/FileIdentity.h"
+#include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "transcript/DocumentManager.h"
@@ -12,61 +13,6 @@
 #include <cmath>
 #include <cstdio>
 #include <optional>
-
-namespace {
-
-bool g_verbose = false;
-
-// The store logs every line it reads; that goes to stderr only on request.
-void quietMessageHandler(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if ((type == QtInfoMsg || type == QtDebugMsg) && !g_verbose)
-        return;
-    std::fprintf(stderr, "%s\n", qPrintable(message));
-}
-
-// Parses the options and the one positional argument. Returns an exit code
-// when the command should end here (help or a usage error).
-std::optional<int> parse(QCommandLineParser& parser, const QString& command, const QString& argument,
-                         const QStringList& args, QString& positional)
-{
-    parser.addHelpOption();
-    const QCommandLineOption verbose(QStringLiteral("verbose"),
-                                     QStringLiteral("print the store's diagnostic log on stderr"));
-    parser.addOption(verbose);
-    if (!parser.parse(QStringList{QStringLiteral("kelmora-cli ") + command} + args)) {
-        Cli::printError(parser.errorText());
-        return Cli::UsageError;
-    }
-    if (parser.isSet(QStringLiteral("help"))) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return Cli::Success;
-    }
-    if (parser.positionalArguments().size() != 1) {
-        Cli::printError(QStringLiteral("%1 takes exactly one %2").arg(command, argument));
-        return Cli::UsageError;
-    }
-    positional = parser.positionalArguments().first();
-    g_verbose = parser.isSet(verbose);
-    qInstallMessageHandler(quietMessageHandler);
-    return std::nullopt;
-}
-
-std::optional<int> requireFile(const QString& path)
-{
-    const QFileInfo file(path);
-    if (!file.exists()) {
-        Cli::printError(QStringLiteral("%1: no such file").arg(path));
-        return Cli::Failure;
-    }
-    if (!file.isFile()) {
-        Cli::printError(QStringLiteral("%1: not a file").arg(path));
-        return Cli::Failure;
-    }
-    return std::nullopt;
-}
-
-} // namespace
 
 namespace Cli {
 
@@ -83,7 +29,8 @@ int parseLrc(const QStringList& args)
         QStringLiteral("D"), QStringLiteral("0"));
     parser.addOption(duration);
     QString path;
-    if (auto code = parse(parser, QStringLiteral("parse-lrc"), QStringLiteral("transcript file"), args, path))
+    if (auto code = Cli::parseCommandLine(parser, QStringLiteral("parse-lrc"), args,
+                                          QStringLiteral("transcript file"), path))
         return *code;
 
     bool ok = false;
@@ -121,7 +68,8 @@ int identity(const QStringList& args)
                        "the path of its transcript in the store on the second."));
     parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
     QString path;
-    if (auto code = parse(parser, QStringLiteral("identity"), QStringLiteral("audio file"), args, path))
+    if (auto code = Cli::parseCommandLine(parser, QStringLiteral("identity"), args,
+                                          QStringLiteral("audio file"), path))
         return *code;
     if (auto code = requireFile(path))
         return *code;

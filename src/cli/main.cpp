@@ -1,6 +1,7 @@
 // kelmora-cli: Kelmora's engine without the window, for scripts and for a
 // quick look at what the engine makes of a file.
 
+#include "cli/CommandLine.h"
 #include "cli/Commands.h"
 
 #include <QCoreApplication>
