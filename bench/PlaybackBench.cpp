@@ -3,8 +3,9 @@
 //     to the first frame of that segment entering the ring;
 //  2. CPU per second of audio at 1.0x, 0.5x and 2.0x;
 //  3. how far currentTime() is from the frame being handed to the device.
-// Usage: kelmora-playback-bench [LESSON.mp3]
+// Usage: playback_bench [LESSON.mp3]
 
+#include "BenchSupport.h"
 #include "audio/AudioManager.h"
 #include "audio/AudioOutput.h"
 #include "audio/AudioPlayer.h"
@@ -54,18 +55,10 @@ QString lessonPath(int argc, char** argv)
 {
     if (argc > 1)
         return QString::fromLocal8Bit(argv[1]);
-    const QString dir = QStandardPaths::writableLocation(QStandardPaths::TempLocation) + "/kelmora-bench";
-    QDir().mkpath(dir);
-    const QString path = dir + "/lesson-60min-vbr.mp3";
-    if (!QFileInfo(path).size()) {
-        std::printf("making %s ...\n", qPrintable(path));
-        std::fflush(stdout);
-        QProcess make;
-        make.setProcessChannelMode(QProcess::ForwardedChannels);
-        make.start("bash", {QStringLiteral(KELMORA_BENCH_DIR "/make-long-lesson.sh"), path});
-        make.waitForFinished(-1);
-    }
-    return path;
+    std::printf("Preparing a 60-minute VBR speech MP3...\n");
+    std::fflush(stdout);
+    return QString::fromStdString(Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, "speech-60min-vbr.mp3",
+                                                        "-ac 2 -c:a libmp3lame -q:a 2"));
 }
 
 std::unique_ptr<NullAudioOutput> manualOutput(NullAudioOutput** keep = nullptr)

@@ -110,8 +110,10 @@ template <> float toFloat(double v) { return float(v); }
 // arithmetic the compiler can vectorise, unlike a call to lrint per sample.
 inline int16_t floatToS16(float v)
 {
-    const float scaled = std::clamp(v * 32768.0f, -32768.0f, 32767.0f);
-    return int16_t(scaled + (scaled >= 0.0f ? 0.5f : -0.5f));
+    float scaled = v * 32768.0f;
+    scaled = scaled < -32768.0f ? -32768.0f : scaled;
+    scaled = scaled > 32767.0f ? 32767.0f : scaled;
+    return int16_t(int(scaled + std::copysign(0.5f, scaled)));
 }
 
 template <typename T> int16_t toS16(T v);
@@ -142,7 +144,13 @@ template <typename T> void interleavedS16T(const AVFrame* f, bool planar, int16_
 {
     const int n = f->nb_samples;
     const int channels = f->ch_layout.nb_channels;
-    if (planar) {
+    if (planar && channels == 1) {
+        // Contiguous in and out: the common mono case, kept vectorisable.
+        const T* __restrict src = reinterpret_cast<const T*>(f->extended_data[0]);
+        int16_t* __restrict dst = out;
+        for (int i = 0; i < n; ++i)
+            dst[i] = toS16<T>(src[i]);
+    } else if (planar) {
         for (int c = 0; c < channels; ++c) {
             const T* src = reinterpret_cast<const T*>(f->extended_data[c]);
             for (int i = 0; i < n; ++i)
