@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <chrono>
 #include <cmath>
 #include <cstdint>
@@ -35,6 +37,9 @@ struct SeekCase
     const char* file;
     float tolerance;          // 0: bit-exact
     float startTolerance = 0; // at frame 0, where no run-in is possible
+
+    // Names the case in test listings by its file rather than by its bytes.
+    friend void PrintTo(const SeekCase& c, std::ostream* os) { *os << c.file; }
 };
 
 class SeekAccuracy : public ::testing::TestWithParam<SeekCase>
