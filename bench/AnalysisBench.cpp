@@ -17,8 +17,8 @@ int main(int argc, char** argv)
     const int runs = argc > 1 ? std::max(3, std::atoi(argv[1])) : 3;
     std::printf("Preparing a 60-minute 128 kbps speech MP3...\n");
     std::fflush(stdout);
-    const std::string file =
-        Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, "speech-60min.mp3", "-c:a libmp3lame -b:a 128k");
+    const std::string file = Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, "speech-60min.mp3",
+                                                   "-c:a libmp3lame -b:a 128k");
 
     std::vector<double> cliTimes, ffmpegTimes;
     long peakKiB = 0;
@@ -35,14 +35,15 @@ int main(int argc, char** argv)
         ffmpegTimes.push_back(decode.seconds);
         cliTimes.push_back(analyse.seconds);
         peakKiB = std::max(peakKiB, analyse.peakResidentKiB);
-        std::printf("run %d: kelmora-cli analyze %.3f s, ffmpeg decode %.3f s, peak %.1f MB\n", i + 1,
-                    analyse.seconds, decode.seconds, peakKiB / 1024.0);
+        std::printf("run %d: kelmora-cli analyze %.3f s, ffmpeg decode %.3f s, peak %.1f MB\n",
+                    i + 1, analyse.seconds, decode.seconds, peakKiB / 1024.0);
     }
     const double cli = Bench::median(cliTimes);
     const double ffmpeg = Bench::median(ffmpegTimes);
     const double ratio = cli / ffmpeg;
     const double peakMB = peakKiB / 1024.0;
-    std::printf("\nmedian of %d: kelmora-cli analyze %.3f s, ffmpeg decode %.3f s\n", runs, cli, ffmpeg);
+    std::printf("\nmedian of %d: kelmora-cli analyze %.3f s, ffmpeg decode %.3f s\n", runs, cli,
+                ffmpeg);
     std::printf("time ratio %.3f (target <= 1.15) %s\n", ratio, ratio <= 1.15 ? "ok" : "MISSED");
     std::printf("peak resident memory %.1f MB (target <= 120 MB) %s\n", peakMB,
                 peakMB <= 120.0 ? "ok" : "MISSED");

@@ -21,7 +21,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -35,7 +34,9 @@ using SteadyClock = std::chrono::steady_clock;
 
 int64_t nowNs()
 {
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(SteadyClock::now().time_since_epoch()).count();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(
+               SteadyClock::now().time_since_epoch())
+        .count();
 }
 
 double processCpuSeconds()
@@ -57,8 +58,8 @@ QString lessonPath(int argc, char** argv)
         return QString::fromLocal8Bit(argv[1]);
     std::printf("Preparing a 60-minute VBR speech MP3...\n");
     std::fflush(stdout);
-    return QString::fromStdString(Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, "speech-60min-vbr.mp3",
-                                                        "-ac 2 -c:a libmp3lame -q:a 2"));
+    return QString::fromStdString(Bench::longSpeechFile(
+        KELMORA_BENCH_DATA, 60, "speech-60min-vbr.mp3", "-ac 2 -c:a libmp3lame -q:a 2"));
 }
 
 std::unique_ptr<NullAudioOutput> manualOutput(NullAudioOutput** keep = nullptr)
@@ -88,12 +89,14 @@ void seekLatency(const QString& path)
     }
     AudioPlayer* player = engine.audioPlayer();
     const qsizetype count = engine.numberOfSegments();
-    std::printf("\n%s: %.1f min, %lld segments, analysed in %.1f s\n", qPrintable(QFileInfo(path).fileName()),
-                engine.duration() / 60.0, static_cast<long long>(count), double(load.elapsed()) / 1000.0);
+    std::printf("\n%s: %.1f min, %lld segments, analysed in %.1f s\n",
+                qPrintable(QFileInfo(path).fileName()), engine.duration() / 60.0,
+                static_cast<long long>(count), double(load.elapsed()) / 1000.0);
 
     // The player indexes the file in the background once its ring is full.
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    std::printf("1. playSegmentAtIndex -> first frame of the segment in the ring (target <= 20 ms)\n");
+    std::printf(
+        "1. playSegmentAtIndex -> first frame of the segment in the ring (target <= 20 ms)\n");
     for (const float rate : {1.0f, 0.5f}) {
         engine.setPlaybackRate(rate);
         std::vector<double> latencies;
@@ -107,7 +110,8 @@ void seekLatency(const QString& path)
             engine.stopPlayback();
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
         }
-        std::printf("   %.1fx, %zu requests: first %.2f ms, median %.2f ms, 90th percentile %.2f ms, max %.2f ms\n",
+        std::printf("   %.1fx, %zu requests: first %.2f ms, median %.2f ms, 90th percentile %.2f "
+                    "ms, max %.2f ms\n",
                     double(rate), latencies.size(), latencies.front(), percentile(latencies, 0.5),
                     percentile(latencies, 0.9), percentile(latencies, 1.0));
     }
@@ -116,7 +120,8 @@ void seekLatency(const QString& path)
 
 void cpuPerSecond(const QString& path)
 {
-    std::printf("2. CPU per second of audio played (targets: <= 2%% of a core at 1.0x, <= 12%% at 0.5x)\n");
+    std::printf(
+        "2. CPU per second of audio played (targets: <= 2%% of a core at 1.0x, <= 12%% at 0.5x)\n");
     for (const float rate : {1.0f, 0.5f, 2.0f}) {
         NullAudioOutput* output = nullptr;
         QString error;
@@ -140,7 +145,8 @@ void cpuPerSecond(const QString& path)
         }
         const double cpu = processCpuSeconds() - cpu0;
         const double wall = double(nowNs() - wall0) / 1e9;
-        std::printf("   %.1fx: %.2f%% of a core (%.2f s CPU for %.0f s of audio, %.0fx faster than real time)\n",
+        std::printf("   %.1fx: %.2f%% of a core (%.2f s CPU for %.0f s of audio, %.0fx faster than "
+                    "real time)\n",
                     double(rate), 100.0 * cpu / seconds, cpu, seconds, seconds / wall);
     }
 }
@@ -179,7 +185,8 @@ void positionError(const QString& path, bool realDevice)
         player->pause();
         std::printf("   %s, %.1fx: |currentTime - frame being handed| median %.1f ms, max %.1f ms; "
                     "device buffer %.0f ms (%.0f ms of source at this rate)\n",
-                    realDevice ? qPrintable(player->output()->description()) : "null device (100 ms modelled)",
+                    realDevice ? qPrintable(player->output()->description())
+                               : "null device (100 ms modelled)",
                     double(rate), percentile(errors, 0.5) * 1000, percentile(errors, 1.0) * 1000,
                     buffer * 1000, buffer * double(rate) * 1000);
     }
@@ -194,8 +201,9 @@ int main(int argc, char** argv)
     const QString path = lessonPath(argc, argv);
     seekLatency(path);
     cpuPerSecond(path);
-    std::printf("3. currentTime against the frame being handed to the device (target <= 10 ms + the device "
-                "buffer)\n");
+    std::printf(
+        "3. currentTime against the frame being handed to the device (target <= 10 ms + the device "
+        "buffer)\n");
     positionError(path, false);
     if (QtAudioOutput::deviceAvailable())
         positionError(path, true);

@@ -12,7 +12,6 @@
 #include <QChar>
 #include <QString>
 #include <QStringList>
-
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -124,7 +123,8 @@ void checkSegments(const Lrc::StampedLines& lines, double total)
     if (lines.stamps.size() == 1 && lines.stamps[0] <= total) {
         const double start = lines.stamps[0];
         const double expected = total > 0.0 ? total - start : 5.0;
-        const SegmentList want = expected > 0.0 ? SegmentList{Segment{start, expected}} : SegmentList{};
+        const SegmentList want =
+            expected > 0.0 ? SegmentList{Segment{start, expected}} : SegmentList{};
         if (segments != want)
             fail("a single stamp gives the wrong segment", QString::number(start));
     }

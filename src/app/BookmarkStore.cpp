@@ -28,7 +28,8 @@ std::optional<QString> BookmarkStore::resolveBookmarkData(const QByteArray& data
 
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString path = decoder.decode(data);
-    if (decoder.hasError() || path.isEmpty() || !QDir::isAbsolutePath(path) || path.contains(QChar(0)))
+    if (decoder.hasError() || path.isEmpty() || !QDir::isAbsolutePath(path) ||
+        path.contains(QChar(0)))
         return fail(QStringLiteral("The bookmark data is not a folder path"));
 
     const QFileInfo folder(path);
@@ -77,7 +78,8 @@ void BookmarkStore::restoreLastAudioFile()
 {
     const QString bookmarkKey = QString::fromLatin1(PreferenceKeys::LastDirectoryBookmark);
     const QString fileKey = QString::fromLatin1(PreferenceKeys::LastAudioFileName);
-    if (!m_defaults.objectForKey(bookmarkKey).isValid() || !m_defaults.objectForKey(fileKey).isValid())
+    if (!m_defaults.objectForKey(bookmarkKey).isValid() ||
+        !m_defaults.objectForKey(fileKey).isValid())
         return;
 
     // Text that is not base64 fails like a bookmark that does not resolve, so

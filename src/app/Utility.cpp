@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QDateTime>
 #include <QDebug>
-
 #include <cmath>
 
 std::optional<QString> Utility::hexStringFromColor(const QColor& color)

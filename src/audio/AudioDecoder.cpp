@@ -99,12 +99,30 @@ uint32_t formatIDForCodec(AVCodecID id)
 // Sample conversion. `Read` turns one stored sample into a float in -1..1 and
 // into a 16-bit value the way a conventional converter does.
 template <typename T> float toFloat(T v);
-template <> float toFloat(uint8_t v) { return (int(v) - 128) * (1.0f / 128.0f); }
-template <> float toFloat(int16_t v) { return v * (1.0f / 32768.0f); }
-template <> float toFloat(int32_t v) { return float(v * (1.0 / 2147483648.0)); }
-template <> float toFloat(int64_t v) { return float(double(v) * (1.0 / 9223372036854775808.0)); }
-template <> float toFloat(float v) { return v; }
-template <> float toFloat(double v) { return float(v); }
+template <> float toFloat(uint8_t v)
+{
+    return (int(v) - 128) * (1.0f / 128.0f);
+}
+template <> float toFloat(int16_t v)
+{
+    return v * (1.0f / 32768.0f);
+}
+template <> float toFloat(int32_t v)
+{
+    return float(v * (1.0 / 2147483648.0));
+}
+template <> float toFloat(int64_t v)
+{
+    return float(double(v) * (1.0 / 9223372036854775808.0));
+}
+template <> float toFloat(float v)
+{
+    return v;
+}
+template <> float toFloat(double v)
+{
+    return float(v);
+}
 
 // Rounds half away from zero after clamping in floating point: plain
 // arithmetic the compiler can vectorise, unlike a call to lrint per sample.
@@ -117,15 +135,32 @@ inline int16_t floatToS16(float v)
 }
 
 template <typename T> int16_t toS16(T v);
-template <> int16_t toS16(uint8_t v) { return int16_t((int(v) - 128) * 256); }
-template <> int16_t toS16(int16_t v) { return v; }
-template <> int16_t toS16(int32_t v) { return int16_t(v >> 16); }
-template <> int16_t toS16(int64_t v) { return int16_t(v >> 48); }
-template <> int16_t toS16(float v) { return floatToS16(v); }
-template <> int16_t toS16(double v) { return floatToS16(float(v)); }
+template <> int16_t toS16(uint8_t v)
+{
+    return int16_t((int(v) - 128) * 256);
+}
+template <> int16_t toS16(int16_t v)
+{
+    return v;
+}
+template <> int16_t toS16(int32_t v)
+{
+    return int16_t(v >> 16);
+}
+template <> int16_t toS16(int64_t v)
+{
+    return int16_t(v >> 48);
+}
+template <> int16_t toS16(float v)
+{
+    return floatToS16(v);
+}
+template <> int16_t toS16(double v)
+{
+    return floatToS16(float(v));
+}
 
-template <typename T>
-void channelAsFloatT(const AVFrame* f, bool planar, int channel, float* out)
+template <typename T> void channelAsFloatT(const AVFrame* f, bool planar, int channel, float* out)
 {
     const int n = f->nb_samples;
     if (planar) {
@@ -246,8 +281,8 @@ struct AudioDecoder::Impl
     AudioStreamInfo info;
     QString error;
     DecodedBuffer buffer;
-    bool inputDone = false;  // no more packets will be sent
-    bool flushed = false;    // the decoder has been told so
+    bool inputDone = false; // no more packets will be sent
+    bool flushed = false;   // the decoder has been told so
     int skipped = 0;
 };
 
@@ -426,7 +461,8 @@ bool AudioDecoder::seek(double seconds)
         return false;
     const AVStream* stream = d->format->streams[d->streamIndex];
     const double timeBase = av_q2d(stream->time_base);
-    const auto ts = static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase));
+    const auto ts =
+        static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase));
     const int rc = av_seek_frame(d->format.get(), d->streamIndex, ts, AVSEEK_FLAG_BACKWARD);
     if (rc < 0) {
         d->error = ffmpegError(rc);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-
 #include <cstdint>
 #include <memory>
 
@@ -10,15 +9,16 @@ struct AVFrame;
 // What the decoder knows of the first audio stream of a file once it is open.
 struct AudioStreamInfo
 {
-    uint32_t formatID = 0;  // four-character code of the codec: '.mp3', 'aac ', 'alac', 'flac', 'lpcm', or 0
-    QString codecName;      // FFmpeg's name, for messages
-    QString containerName;  // FFmpeg's demuxer name, for messages
-    double sampleRate = 0;  // Hz, of the decoded audio (never resampled)
+    uint32_t formatID =
+        0; // four-character code of the codec: '.mp3', 'aac ', 'alac', 'flac', 'lpcm', or 0
+    QString codecName;     // FFmpeg's name, for messages
+    QString containerName; // FFmpeg's demuxer name, for messages
+    double sampleRate = 0; // Hz, of the decoded audio (never resampled)
     int channels = 0;
-    double duration = 0;    // seconds, the container's own figure (not the decoded length)
+    double duration = 0;            // seconds, the container's own figure (not the decoded length)
     bool durationEstimated = false; // guessed from the bit rate, not stated by the file
-    int64_t bitRate = 0;    // bits per second, the stream's estimate or the container's
-    double startTime = 0;   // stream time stamp of the first sample, in seconds (0 when unknown)
+    int64_t bitRate = 0;            // bits per second, the stream's estimate or the container's
+    double startTime = 0; // stream time stamp of the first sample, in seconds (0 when unknown)
 };
 
 // One decoded buffer, as the codec delivered it. Conversions are done on
@@ -51,7 +51,12 @@ private:
 class AudioDecoder
 {
 public:
-    enum class ReadResult { Buffer, EndOfStream, Error };
+    enum class ReadResult
+    {
+        Buffer,
+        EndOfStream,
+        Error
+    };
 
     AudioDecoder();
     ~AudioDecoder();

@@ -9,7 +9,6 @@
 
 #include <QDebug>
 #include <QFileInfo>
-
 #include <algorithm>
 #include <vector>
 
@@ -58,7 +57,8 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
         qInfo("audio samples is 0");
         if (QFileInfo(path).size() == 0)
             return fail(QStringLiteral("the file is empty"));
-        return fail(QStringLiteral("not an audio file Kelmora can read (%1)").arg(decoder.errorString()));
+        return fail(
+            QStringLiteral("not an audio file Kelmora can read (%1)").arg(decoder.errorString()));
     }
     const AudioStreamInfo& info = decoder.info();
     m_sampleRate = static_cast<float>(info.sampleRate);
@@ -82,8 +82,8 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
             break;
         if (result == AudioDecoder::ReadResult::Error) {
             qInfo("Error reading audio file: %s", qPrintable(decoder.errorString()));
-            return fail(QStringLiteral("the audio data cannot be read (%1)")
-                            .arg(decoder.errorString()));
+            return fail(
+                QStringLiteral("the audio data cannot be read (%1)").arg(decoder.errorString()));
         }
         const DecodedBuffer& buffer = decoder.buffer();
         const auto n = static_cast<std::size_t>(buffer.frames());
@@ -115,9 +115,10 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     const double decodedSeconds = static_cast<double>(frames) / info.sampleRate;
     if (!info.durationEstimated &&
         decodedSeconds < info.duration - std::max(0.25, 0.01 * info.duration)) {
-        const QString reason = QStringLiteral("the audio ends at %1 s although the file states %2 s")
-                                   .arg(decodedSeconds, 0, 'f', 1)
-                                   .arg(info.duration, 0, 'f', 1);
+        const QString reason =
+            QStringLiteral("the audio ends at %1 s although the file states %2 s")
+                .arg(decodedSeconds, 0, 'f', 1)
+                .arg(info.duration, 0, 'f', 1);
         qInfo("Error reading audio file: %s", qPrintable(reason));
         return fail(reason + QStringLiteral("; it may be truncated or damaged"));
     }
@@ -149,8 +150,8 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     m_channelInfo = info.channels == 2 ? QStringLiteral("Stereo") : QStringLiteral("Mono");
     m_audioFormat = getAudioFormat(info);
     m_totalSamples = frames;
-    m_decodedWaveform = DecodedWaveform{peaks.normalized(), m_sampleRate, peaks.totalFrames(),
-                                        info.bitRate};
+    m_decodedWaveform =
+        DecodedWaveform{peaks.normalized(), m_sampleRate, peaks.totalFrames(), info.bitRate};
     m_progress.store(1.0, std::memory_order_relaxed);
     return true;
 }

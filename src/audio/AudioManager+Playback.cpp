@@ -15,7 +15,6 @@
 #include <QPointer>
 #include <QThreadPool>
 #include <QVariant>
-
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -93,8 +92,8 @@ void AudioManager::playSegmentAtIndex(qint64 index)
     }
 
     // The gap after the segment is played too: up to the next one's start.
-    double length = index + 1 < m_segments.size() ? m_segments[index + 1].start - start
-                                                  : segment.duration;
+    double length =
+        index + 1 < m_segments.size() ? m_segments[index + 1].start - start : segment.duration;
     length /= static_cast<double>(m_currentRate);
     // The position ticker that play() stored in the slot is replaced, not
     // cancelled: it keeps posting positions.

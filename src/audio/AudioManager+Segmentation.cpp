@@ -54,7 +54,8 @@ void AudioManager::processAudioFile(const QString& path, const Completion& compl
         if (onEngineThread)
             completion(false);
         else
-            QMetaObject::invokeMethod(this, [completion] { completion(false); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [completion] { completion(false); }, Qt::QueuedConnection);
         return;
     }
     calculateAdaptiveThresholds();

@@ -8,7 +8,6 @@
 #include "preferences/PreferenceKeys.h"
 
 #include <QThreadPool>
-
 #include <algorithm>
 
 AudioManager& AudioManager::sharedInstance()
@@ -18,10 +17,7 @@ AudioManager& AudioManager::sharedInstance()
 }
 
 AudioManager::AudioManager(Defaults& defaults, NotificationCenter& center, QObject* parent)
-    : QObject(parent),
-      m_defaults(defaults),
-      m_center(center),
-      m_clock(&Clock::system()),
+    : QObject(parent), m_defaults(defaults), m_center(center), m_clock(&Clock::system()),
       m_fadeQueue(std::make_unique<QThreadPool>())
 {
     m_fadeQueue->setObjectName(QStringLiteral("com.audiomanager.fade"));
@@ -57,7 +53,8 @@ void AudioManager::loadSettings()
     const double speed = m_defaults.doubleForKey(PlaySpeed);
     m_currentRate = (speed >= 0.3 && speed <= 3.0) ? static_cast<float>(speed) : 1.0f;
     const double repeats = m_defaults.doubleForKey(MaxRepeatPlayTimes);
-    m_maxRepeatPlayTimes = (repeats >= 1.0 && repeats <= 9999.0) ? static_cast<float>(repeats) : 20.0f;
+    m_maxRepeatPlayTimes =
+        (repeats >= 1.0 && repeats <= 9999.0) ? static_cast<float>(repeats) : 20.0f;
 }
 
 void AudioManager::saveSettings(double minSegmentDuration, qint64 sensitivity, double playSpeed)

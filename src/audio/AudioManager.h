@@ -5,7 +5,6 @@
 #include <QList>
 #include <QObject>
 #include <QString>
-
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -41,8 +40,8 @@ struct AudioCharacteristics
 // processAudioFile() may run on any thread (the window runs it on a worker
 // and reads analysisProgress() meanwhile); the player is created, the
 // completion called and the waveform handed back on the thread the engine
-// lives on. Properties are not to be read while a load is running. Everything else, playback included, is called on the engine's
-// thread, where its timers run.
+// lives on. Properties are not to be read while a load is running. Everything else, playback
+// included, is called on the engine's thread, where its timers run.
 class AudioManager : public QObject
 {
     Q_OBJECT
@@ -54,7 +53,8 @@ public:
 
     static AudioManager& sharedInstance();
 
-    explicit AudioManager(Defaults& defaults, NotificationCenter& center, QObject* parent = nullptr);
+    explicit AudioManager(Defaults& defaults, NotificationCenter& center,
+                          QObject* parent = nullptr);
     ~AudioManager() override;
 
     // ---- Loading ----
@@ -208,8 +208,8 @@ private:
     Clock* m_clock;
     OutputFactory m_outputFactory;
     std::unique_ptr<AudioPlayer> m_audioPlayer;
-    std::shared_ptr<Timer> m_playTimer;            // the one timer slot
-    QList<std::shared_ptr<Timer>> m_tickers;       // every position ticker started by play()
+    std::shared_ptr<Timer> m_playTimer;      // the one timer slot
+    QList<std::shared_ptr<Timer>> m_tickers; // every position ticker started by play()
     qint64 m_currentSegmentIndex = 0;
     qint64 m_currentSegmentRepeatedTimes = 0;
     bool m_isRepeatMode = true;

@@ -4,7 +4,6 @@
 #include "audio/QtAudioOutput.h"
 
 #include <QDebug>
-
 #include <atomic>
 
 namespace {

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <QtGlobal>
-
 #include <memory>
 
 // What the player hands out: interleaved 32-bit float frames.

@@ -6,7 +6,6 @@
 #include <QDebug>
 #include <QMetaObject>
 #include <QPointer>
-
 #include <algorithm>
 
 namespace {
@@ -15,9 +14,8 @@ namespace {
 constexpr qsizetype kRingFrames = 32768;
 } // namespace
 
-std::unique_ptr<AudioPlayer> AudioPlayer::create(const QString& path,
-                                                 std::unique_ptr<AudioOutput> output,
-                                                 QString* error)
+std::unique_ptr<AudioPlayer>
+AudioPlayer::create(const QString& path, std::unique_ptr<AudioOutput> output, QString* error)
 {
     auto decoder = std::make_unique<AudioDecoder>();
     if (!decoder->open(path) || !decoder->openCodec()) {
@@ -27,16 +25,16 @@ std::unique_ptr<AudioPlayer> AudioPlayer::create(const QString& path,
     }
     if (!output)
         output = AudioOutput::createDefault();
-    return std::unique_ptr<AudioPlayer>(new AudioPlayer(path, std::move(decoder), std::move(output)));
+    return std::unique_ptr<AudioPlayer>(
+        new AudioPlayer(path, std::move(decoder), std::move(output)));
 }
 
 AudioPlayer::AudioPlayer(const QString& path, std::unique_ptr<AudioDecoder> decoder,
                          std::unique_ptr<AudioOutput> output)
     : m_path(path),
-      m_duration(decoder->info().duration),
-      m_format{static_cast<int>(decoder->info().sampleRate), std::min(decoder->info().channels, 2)},
-      m_decoder(std::move(decoder)),
-      m_output(std::move(output)),
+      m_duration(decoder->info().duration), m_format{static_cast<int>(decoder->info().sampleRate),
+                                                     std::min(decoder->info().channels, 2)},
+      m_decoder(std::move(decoder)), m_output(std::move(output)),
       m_ring(kRingFrames, m_format.channels)
 {
     // The decode thread's reports hop to this object's thread; they are
@@ -44,14 +42,25 @@ AudioPlayer::AudioPlayer(const QString& path, std::unique_ptr<AudioDecoder> deco
     QPointer<AudioPlayer> self(this);
     PlaybackProducer::Events events;
     events.reachedEnd = [self](uint32_t seek) {
-        QMetaObject::invokeMethod(self, [self, seek] { if (self) self->onReachedEnd(seek); },
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            self,
+            [self, seek] {
+                if (self)
+                    self->onReachedEnd(seek);
+            },
+            Qt::QueuedConnection);
     };
     events.decodeError = [self](const QString& message) {
-        QMetaObject::invokeMethod(self, [self, message] { if (self) emit self->decodeErrorDidOccur(message); },
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            self,
+            [self, message] {
+                if (self)
+                    emit self->decodeErrorDidOccur(message);
+            },
+            Qt::QueuedConnection);
     };
-    m_producer = std::make_unique<PlaybackProducer>(*m_decoder, m_ring, m_handed, std::move(events));
+    m_producer =
+        std::make_unique<PlaybackProducer>(*m_decoder, m_ring, m_handed, std::move(events));
     setCurrentTime(0.0);
 }
 
@@ -167,7 +176,7 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
     } else {
         m_ring.skipStale();
     }
-    std::fill(out + static_cast<size_t>(copied) * channels, out + static_cast<size_t>(frames) * channels,
-              0.0f);
+    std::fill(out + static_cast<size_t>(copied) * channels,
+              out + static_cast<size_t>(frames) * channels, 0.0f);
     return copied;
 }

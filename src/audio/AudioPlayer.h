@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <QString>
-
 #include <atomic>
 #include <memory>
 
@@ -29,8 +28,7 @@ public:
     // Opens the file for playing through `output` (the default device when
     // null). Returns null with *error set when the file cannot be played.
     static std::unique_ptr<AudioPlayer> create(const QString& path,
-                                               std::unique_ptr<AudioOutput> output,
-                                               QString* error);
+                                               std::unique_ptr<AudioOutput> output, QString* error);
     ~AudioPlayer() override;
 
     QString path() const { return m_path; }

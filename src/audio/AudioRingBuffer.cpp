@@ -13,7 +13,8 @@ AudioRingBuffer::AudioRingBuffer(qsizetype capacityFrames, int channels)
 
 qsizetype AudioRingBuffer::writableFrames() const
 {
-    const uint64_t used = m_write.load(std::memory_order_relaxed) - m_read.load(std::memory_order_acquire);
+    const uint64_t used =
+        m_write.load(std::memory_order_relaxed) - m_read.load(std::memory_order_acquire);
     return static_cast<qsizetype>(m_mask + 1 - used);
 }
 

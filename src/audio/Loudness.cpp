@@ -39,7 +39,8 @@ Statistics statistics(const QList<float>& rmsValues)
     return s;
 }
 
-FrameAccumulator::FrameAccumulator(uint32_t frameLength) : m_frame(std::max<uint32_t>(frameLength, 1))
+FrameAccumulator::FrameAccumulator(uint32_t frameLength)
+    : m_frame(std::max<uint32_t>(frameLength, 1))
 {
 }
 

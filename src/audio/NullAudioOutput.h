@@ -15,7 +15,11 @@
 class NullAudioOutput : public AudioOutput
 {
 public:
-    enum class Clocking { RealTime, Manual };
+    enum class Clocking
+    {
+        RealTime,
+        Manual
+    };
 
     explicit NullAudioOutput(Clocking clocking, double latencySeconds = 0.1);
     ~NullAudioOutput() override;

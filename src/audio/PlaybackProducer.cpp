@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr qsizetype kBlock = 1024;    // frames per stretcher call
-constexpr qsizetype kMinChunk = 256;  // smallest write worth waking for
+constexpr qsizetype kBlock = 1024;   // frames per stretcher call
+constexpr qsizetype kMinChunk = 256; // smallest write worth waking for
 
 int64_t steadyNs()
 {
@@ -40,17 +40,12 @@ double runInFor(uint32_t formatID)
 
 PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
                                    const HandedPosition& handed, Events events)
-    : m_decoder(decoder),
-      m_ring(ring),
-      m_handed(handed),
-      m_events(std::move(events)),
-      m_sampleRate(decoder.info().sampleRate),
-      m_sourceChannels(decoder.info().channels),
-      m_channels(ring.channels()),
-      m_streamStart(decoder.info().startTime),
+    : m_decoder(decoder), m_ring(ring), m_handed(handed), m_events(std::move(events)),
+      m_sampleRate(decoder.info().sampleRate), m_sourceChannels(decoder.info().channels),
+      m_channels(ring.channels()), m_streamStart(decoder.info().startTime),
       m_runIn(runInFor(decoder.info().formatID)),
-      m_fillTarget(std::min<qsizetype>(ring.capacity() / 2,
-                                       static_cast<qsizetype>(0.25 * m_sampleRate))),
+      m_fillTarget(
+          std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.25 * m_sampleRate))),
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
                                                   static_cast<int>(kBlock))),
       m_stretched(static_cast<size_t>(kBlock * m_channels))
@@ -111,8 +106,9 @@ void PlaybackProducer::run()
             buildIndex();
             continue;
         }
-        const auto period = m_playing.load(std::memory_order_relaxed) ? std::chrono::milliseconds(4)
-                                                                      : std::chrono::milliseconds(40);
+        const auto period = m_playing.load(std::memory_order_relaxed)
+                                ? std::chrono::milliseconds(4)
+                                : std::chrono::milliseconds(40);
         std::unique_lock lock(m_wakeMutex);
         m_wakeCondition.wait_for(lock, period, [this] { return m_woken; });
         m_woken = false;
@@ -294,11 +290,13 @@ bool PlaybackProducer::decodeNext()
             m_needTimestamp = false;
             const double start = buffer.startTime();
             if (start >= 0.0)
-                m_nextFrame = std::max<int64_t>(std::llround((start - m_streamStart) * m_sampleRate), 0);
+                m_nextFrame =
+                    std::max<int64_t>(std::llround((start - m_streamStart) * m_sampleRate), 0);
         }
         const int64_t first = m_nextFrame;
         m_nextFrame += frames;
-        const qsizetype skip = static_cast<qsizetype>(std::clamp<int64_t>(m_dropUntil - first, 0, frames));
+        const qsizetype skip =
+            static_cast<qsizetype>(std::clamp<int64_t>(m_dropUntil - first, 0, frames));
         if (skip == frames)
             continue;
 
@@ -308,7 +306,8 @@ bool PlaybackProducer::decodeNext()
         for (int c = 0; c < m_channels; ++c) {
             buffer.channelAsFloat(std::min(c, m_sourceChannels - 1), m_channel.data());
             for (qsizetype i = 0; i < kept; ++i)
-                m_pending[static_cast<size_t>(i * m_channels + c)] = m_channel[static_cast<size_t>(skip + i)];
+                m_pending[static_cast<size_t>(i * m_channels + c)] =
+                    m_channel[static_cast<size_t>(skip + i)];
         }
         m_pendingStart = first + skip;
         m_pendingFrames = kept;

@@ -3,7 +3,6 @@
 #include "audio/AudioRingBuffer.h"
 
 #include <QString>
-
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
@@ -97,9 +96,9 @@ private:
     bool m_indexed = false;
     uint32_t m_seek = 0;
     double m_target = 0.0;
-    int64_t m_dropUntil = 0;   // source frame where output starts
+    int64_t m_dropUntil = 0; // source frame where output starts
     bool m_needTimestamp = true;
-    int64_t m_nextFrame = 0;   // source frame of the next decoded frame
+    int64_t m_nextFrame = 0; // source frame of the next decoded frame
     std::vector<float> m_channel;
     std::vector<float> m_pending; // decoded, interleaved output channels
     qsizetype m_pendingFrames = 0;

@@ -67,7 +67,8 @@ QtAudioOutput::QtAudioOutput()
 QtAudioOutput::~QtAudioOutput()
 {
     stop();
-    QMetaObject::invokeMethod(m_host, [host = m_host] { delete host; }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        m_host, [host = m_host] { delete host; }, Qt::BlockingQueuedConnection);
     m_thread.quit();
     m_thread.wait();
 }
@@ -88,7 +89,8 @@ bool QtAudioOutput::start(const OutputFormat& format, AudioRenderSource* source)
 
 void QtAudioOutput::stop()
 {
-    QMetaObject::invokeMethod(m_host, [this] { closeOnThread(); }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        m_host, [this] { closeOnThread(); }, Qt::BlockingQueuedConnection);
 }
 
 void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* source, bool* ok)

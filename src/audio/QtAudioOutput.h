@@ -3,7 +3,6 @@
 #include "audio/AudioOutput.h"
 
 #include <QThread>
-
 #include <atomic>
 #include <memory>
 

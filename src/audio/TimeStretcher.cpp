@@ -1,15 +1,12 @@
 #include "audio/TimeStretcher.h"
 
-#include <rubberband/RubberBandStretcher.h>
-
 #include <algorithm>
+#include <rubberband/RubberBandStretcher.h>
 
 using RubberBand::RubberBandStretcher;
 
 TimeStretcher::TimeStretcher(int sampleRate, int channels, int maxBlock)
-    : m_sampleRate(sampleRate),
-      m_channels(channels),
-      m_maxBlock(maxBlock),
+    : m_sampleRate(sampleRate), m_channels(channels), m_maxBlock(maxBlock),
       m_planes(static_cast<size_t>(channels), std::vector<float>(static_cast<size_t>(maxBlock))),
       m_pointers(static_cast<size_t>(channels))
 {

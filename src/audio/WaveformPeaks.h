@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QList>
-
 #include <cstdint>
 
 // Peaks for the waveform strip: one per block of 100 16-bit values of each

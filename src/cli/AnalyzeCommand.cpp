@@ -15,7 +15,6 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
-
 #include <cstdio>
 #include <optional>
 
@@ -43,7 +42,8 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
         QStringLiteral("S"));
     const QCommandLineOption sensitivity(
         QStringLiteral("sensitivity"),
-        QStringLiteral("silence sensitivity, 0 low, 1 medium, 2 high (default: the stored preference)"),
+        QStringLiteral(
+            "silence sensitivity, 0 low, 1 medium, 2 high (default: the stored preference)"),
         QStringLiteral("N"));
     const QCommandLineOption rms(QStringLiteral("rms"),
                                  QStringLiteral("include every 20 ms loudness value"));
@@ -51,13 +51,15 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
     parser.addOption(sensitivity);
     if (withRms)
         parser.addOption(rms);
-    if (auto code = Cli::parseCommandLine(parser, command, args, QStringLiteral("audio file"), out.path))
+    if (auto code =
+            Cli::parseCommandLine(parser, command, args, QStringLiteral("audio file"), out.path))
         return code;
     if (parser.isSet(minSegment)) {
         bool ok = false;
         const double value = parser.value(minSegment).toDouble(&ok);
         if (!ok || !(value > 0.0)) {
-            Cli::printError(QStringLiteral("--min-segment-duration takes a positive number of seconds"));
+            Cli::printError(
+                QStringLiteral("--min-segment-duration takes a positive number of seconds"));
             return Cli::UsageError;
         }
         out.minSegmentDuration = value;
@@ -121,7 +123,8 @@ int analyze(const QStringList& args)
     LoadOptions options;
     if (auto code = parseLoadOptions(
             QStringLiteral("analyze"),
-            QStringLiteral("Prints the loudness profile, silences and segments of an audio file as JSON."),
+            QStringLiteral(
+                "Prints the loudness profile, silences and segments of an audio file as JSON."),
             true, args, options))
         return *code;
     if (auto code = load(options))

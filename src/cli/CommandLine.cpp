@@ -5,7 +5,6 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
-
 #include <cstdio>
 
 namespace {

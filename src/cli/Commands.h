@@ -6,7 +6,12 @@
 // names) and returns the process exit code.
 namespace Cli {
 
-enum ExitCode { Success = 0, Failure = 1, UsageError = 2 };
+enum ExitCode
+{
+    Success = 0,
+    Failure = 1,
+    UsageError = 2
+};
 
 int analyze(const QStringList& args);
 int split(const QStringList& args);

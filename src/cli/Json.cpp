@@ -82,7 +82,8 @@ void Json::write(std::string& out, int indent) const
             } else if constexpr (std::is_same_v<T, std::shared_ptr<Array>>) {
                 bool nested = false;
                 for (const Json& element : *v) {
-                    nested = nested || std::holds_alternative<std::shared_ptr<Array>>(element.m_value) ||
+                    nested = nested ||
+                             std::holds_alternative<std::shared_ptr<Array>>(element.m_value) ||
                              std::holds_alternative<std::shared_ptr<Object>>(element.m_value);
                 }
                 out += '[';

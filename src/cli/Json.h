@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -38,7 +37,7 @@ public:
 private:
     void write(std::string& out, int indent) const;
 
-    std::variant<std::monostate, bool, int64_t, float, double, std::string,
-                 std::shared_ptr<Array>, std::shared_ptr<Object>>
+    std::variant<std::monostate, bool, int64_t, float, double, std::string, std::shared_ptr<Array>,
+                 std::shared_ptr<Object>>
         m_value;
 };

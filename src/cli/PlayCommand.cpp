@@ -15,7 +15,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QTimer>
-
 #include <atomic>
 #include <csignal>
 #include <cstdio>
@@ -48,9 +47,10 @@ std::optional<int> parseOptions(const QStringList& args, PlayOptions& out)
     parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
     const QCommandLineOption segment(QStringLiteral("segment"),
                                      QStringLiteral("play only segment N"), QStringLiteral("N"));
-    const QCommandLineOption rate(QStringLiteral("rate"),
-                                  QStringLiteral("playback rate, 0.3 to 3.0 (default: the stored preference)"),
-                                  QStringLiteral("R"));
+    const QCommandLineOption rate(
+        QStringLiteral("rate"),
+        QStringLiteral("playback rate, 0.3 to 3.0 (default: the stored preference)"),
+        QStringLiteral("R"));
     const QCommandLineOption repeat(QStringLiteral("repeat"),
                                     QStringLiteral("play the segment K times (default 1)"),
                                     QStringLiteral("K"));
@@ -135,8 +135,9 @@ int Cli::play(const QStringList& args)
     if (options.segment) {
         const qint64 index = *options.segment;
         const Segment s = engine.segments()[index];
-        std::printf("segment %lld: %.3f s to %.3f s, %lld time%s at %.2fx\n", static_cast<long long>(index),
-                    s.start, s.end(), static_cast<long long>(options.repeat), options.repeat == 1 ? "" : "s",
+        std::printf("segment %lld: %.3f s to %.3f s, %lld time%s at %.2fx\n",
+                    static_cast<long long>(index), s.start, s.end(),
+                    static_cast<long long>(options.repeat), options.repeat == 1 ? "" : "s",
                     static_cast<double>(engine.currentRate()));
         engine.setRepeatMode(true);
         engine.setRepeatTimes(options.repeat);

@@ -9,7 +9,6 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
-
 #include <cmath>
 #include <cstdio>
 #include <optional>
@@ -63,9 +62,9 @@ int parseLrc(const QStringList& args)
 int identity(const QStringList& args)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Prints an audio file's identity (64 hexadecimal digits) on the first line and "
-                       "the path of its transcript in the store on the second."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Prints an audio file's identity (64 hexadecimal digits) on the first line and "
+        "the path of its transcript in the store on the second."));
     parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
     QString path;
     if (auto code = Cli::parseCommandLine(parser, QStringLiteral("identity"), args,
@@ -81,7 +80,8 @@ int identity(const QStringList& args)
     }
     const std::optional<QString> id = FileIdentity::uniqueIdentifierForFileAtPath(path);
     const QString store =
-        id ? FileIdentity::transcriptionPathForIdentifier(*id, DocumentManager::shared()) : QString();
+        id ? FileIdentity::transcriptionPathForIdentifier(*id, DocumentManager::shared())
+           : QString();
     if (!id || store.isNull()) {
         printError(QStringLiteral("%1: the documents folder is not available").arg(path));
         return Failure;

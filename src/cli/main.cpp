@@ -5,7 +5,6 @@
 #include "cli/Commands.h"
 
 #include <QCoreApplication>
-
 #include <cstdio>
 #include <functional>
 
@@ -21,8 +20,10 @@ struct Command
 const Command kCommands[] = {
     {"analyze", "print the loudness profile and segments of an audio file as JSON", Cli::analyze},
     {"split", "print the LRC time stamps of an audio file's segments", Cli::split},
-    {"parse-lrc", "read a transcript as the application loads it; print texts and segments as JSON", Cli::parseLrc},
-    {"identity", "print an audio file's identity and where its transcript is stored", Cli::identity},
+    {"parse-lrc", "read a transcript as the application loads it; print texts and segments as JSON",
+     Cli::parseLrc},
+    {"identity", "print an audio file's identity and where its transcript is stored",
+     Cli::identity},
     {"play", "play an audio file, or one segment of it, through the sound device", Cli::play},
 };
 

@@ -1,7 +1,6 @@
 #include "common/Clock.h"
 
 #include <QTimer>
-
 #include <cmath>
 
 namespace {
@@ -14,12 +13,14 @@ public:
     {
         m_timer->setTimerType(Qt::PreciseTimer);
         m_timer->setSingleShot(!repeats);
-        m_timer->setInterval(std::chrono::milliseconds(std::max(0L, std::lround(seconds * 1000.0))));
-        QObject::connect(m_timer, &QTimer::timeout, m_timer, [this, repeats, action = std::move(action)] {
-            if (!repeats)
-                m_valid = false;
-            action(); // may invalidate or release this timer
-        });
+        m_timer->setInterval(
+            std::chrono::milliseconds(std::max(0L, std::lround(seconds * 1000.0))));
+        QObject::connect(m_timer, &QTimer::timeout, m_timer,
+                         [this, repeats, action = std::move(action)] {
+                             if (!repeats)
+                                 m_valid = false;
+                             action(); // may invalidate or release this timer
+                         });
         m_timer->start();
     }
     ~QtTimer() override

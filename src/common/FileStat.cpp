@@ -1,7 +1,6 @@
 #include "common/FileStat.h"
 
 #include <QFile>
-
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -33,8 +32,9 @@ std::optional<FileStat> statFile(const QString& path, bool followSymlinks, QStri
     const QByteArray name = QFile::encodeName(path);
     const int flags = followSymlinks ? 0 : AT_SYMLINK_NOFOLLOW;
     struct statx sx = {};
-    int result = path.isEmpty() ? -1 : statx(AT_FDCWD, name.constData(), flags,
-                                                STATX_BASIC_STATS | STATX_BTIME, &sx);
+    int result = path.isEmpty() ? -1
+                                : statx(AT_FDCWD, name.constData(), flags,
+                                        STATX_BASIC_STATS | STATX_BTIME, &sx);
     int code = path.isEmpty() ? ENOENT : errno;
     if (result != 0 && code == ENOSYS) {
         // Kernels or sandboxes without statx: everything but the birth time.
@@ -56,7 +56,8 @@ std::optional<FileStat> statFile(const QString& path, bool followSymlinks, QStri
     }
     if (result != 0) {
         if (error)
-            *error = QStringLiteral("%1: %2").arg(path, QString::fromLocal8Bit(std::strerror(code)));
+            *error =
+                QStringLiteral("%1: %2").arg(path, QString::fromLocal8Bit(std::strerror(code)));
         return std::nullopt;
     }
 

@@ -2,13 +2,18 @@
 
 #include <QDateTime>
 #include <QString>
-
 #include <optional>
 
 // What the file system records about one file, read with a single statx(2).
 struct FileStat
 {
-    enum class Type { Regular, Directory, SymbolicLink, Other };
+    enum class Type
+    {
+        Regular,
+        Directory,
+        SymbolicLink,
+        Other
+    };
 
     Type type = Type::Other;
     qint64 size = 0;
@@ -25,4 +30,5 @@ struct FileStat
 // Reads a file's attributes; a symbolic link is followed when asked. On failure
 // returns nothing and puts the reason ("path: No such file or directory") in
 // `error` if given.
-std::optional<FileStat> statFile(const QString& path, bool followSymlinks, QString* error = nullptr);
+std::optional<FileStat> statFile(const QString& path, bool followSymlinks,
+                                 QString* error = nullptr);

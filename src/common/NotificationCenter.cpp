@@ -33,8 +33,7 @@ void NotificationCenter::removeObserver(QObject* context)
 void NotificationCenter::removeObserver(QObject* context, const QString& name)
 {
     QMutexLocker lock(&m_mutex);
-    m_observers.removeIf(
-        [&](const Observer& o) { return o.context == context && o.name == name; });
+    m_observers.removeIf([&](const Observer& o) { return o.context == context && o.name == name; });
 }
 
 void NotificationCenter::post(const QString& name, const QVariant& object,

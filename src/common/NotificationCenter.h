@@ -6,7 +6,6 @@
 #include <QString>
 #include <QVariant>
 #include <QVariantMap>
-
 #include <functional>
 
 // A process-wide, name-keyed notification bus. Delivery is synchronous, on the

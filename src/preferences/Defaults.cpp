@@ -1,7 +1,6 @@
 #include "preferences/Defaults.h"
 
 #include <QMutexLocker>
-
 #include <limits>
 
 namespace {

@@ -6,7 +6,6 @@
 #include <QString>
 #include <QVariant>
 #include <QVariantMap>
-
 #include <memory>
 
 // The per-user defaults store: user values persist in an INI file, and a

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
-
 #include <filesystem>
 #include <system_error>
 
@@ -22,7 +21,8 @@ void setError(DocumentError* error, const QString& domain, qint64 code, const QS
 
 void setInvalid(DocumentError* error, const QString& description)
 {
-    setError(error, DocumentManager::ErrorDomain, DocumentManager::InvalidArgumentCode, description);
+    setError(error, DocumentManager::ErrorDomain, DocumentManager::InvalidArgumentCode,
+             description);
 }
 
 void setFileSystemError(DocumentError* error, qint64 code, const QString& description)
@@ -59,7 +59,10 @@ QString typeName(FileStat::Type type)
 
 QString DocumentError::toString() const
 {
-    return QStringLiteral("Error Domain=%1 Code=%2 \"%3\"").arg(domain).arg(code).arg(localizedDescription);
+    return QStringLiteral("Error Domain=%1 Code=%2 \"%3\"")
+        .arg(domain)
+        .arg(code)
+        .arg(localizedDescription);
 }
 
 DocumentManager& DocumentManager::shared()
@@ -85,7 +88,8 @@ QString DocumentManager::documentsDirectory() const
     std::error_code ec;
     std::filesystem::create_directories(fsPath(path), ec);
     if (ec || !QFileInfo(path).isDir()) {
-        const QString reason = ec ? fromErrorCode(path, ec) : QStringLiteral("%1: Not a directory").arg(path);
+        const QString reason =
+            ec ? fromErrorCode(path, ec) : QStringLiteral("%1: Not a directory").arg(path);
         qInfo().noquote() << QStringLiteral("Error getting documents directory URL: ") + reason;
         return {};
     }
@@ -134,16 +138,19 @@ bool DocumentManager::saveData(const std::optional<QByteArray>& data, const QStr
         return false;
     QSaveFile file(*path);
     if (!file.open(QIODevice::WriteOnly) || file.write(*data) != data->size() || !file.commit()) {
-        setFileSystemError(error, file.error(), QStringLiteral("%1: %2").arg(*path, file.errorString()));
+        setFileSystemError(error, file.error(),
+                           QStringLiteral("%1: %2").arg(*path, file.errorString()));
         file.cancelWriting();
         return false;
     }
     return true;
 }
 
-std::optional<QByteArray> DocumentManager::loadDataWithName(const QString& name, DocumentError* error) const
+std::optional<QByteArray> DocumentManager::loadDataWithName(const QString& name,
+                                                            DocumentError* error) const
 {
-    const std::optional<QString> path = checkedPath(name, QStringLiteral("Invalid filename"), error);
+    const std::optional<QString> path =
+        checkedPath(name, QStringLiteral("Invalid filename"), error);
     if (!path)
         return std::nullopt;
     QFile file(*path);
@@ -151,7 +158,8 @@ std::optional<QByteArray> DocumentManager::loadDataWithName(const QString& name,
     if (file.open(QIODevice::ReadOnly))
         data = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        setFileSystemError(error, file.error(), QStringLiteral("%1: %2").arg(*path, file.errorString()));
+        setFileSystemError(error, file.error(),
+                           QStringLiteral("%1: %2").arg(*path, file.errorString()));
         return std::nullopt;
     }
     return data;
@@ -165,7 +173,8 @@ bool DocumentManager::fileExistsWithName(const QString& name) const
 
 bool DocumentManager::deleteFileWithName(const QString& name, DocumentError* error) const
 {
-    const std::optional<QString> path = checkedPath(name, QStringLiteral("Invalid filename"), error);
+    const std::optional<QString> path =
+        checkedPath(name, QStringLiteral("Invalid filename"), error);
     if (!path)
         return false;
     if (!statFile(*path, false))
@@ -225,7 +234,8 @@ bool DocumentManager::createDirectory(const QString& name, DocumentError* error)
 
 QVariantMap DocumentManager::attributesOfFile(const QString& name, DocumentError* error) const
 {
-    const std::optional<QString> path = checkedPath(name, QStringLiteral("Invalid filename"), error);
+    const std::optional<QString> path =
+        checkedPath(name, QStringLiteral("Invalid filename"), error);
     if (!path)
         return {};
     QString reason;

@@ -4,7 +4,6 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
-
 #include <optional>
 
 // An error handed out by DocumentManager: a domain, a code and a sentence.
@@ -52,7 +51,8 @@ public:
     // Writes the data in one step (a temporary file renamed over the target).
     bool saveData(const std::optional<QByteArray>& data, const QString& name,
                   DocumentError* error = nullptr) const;
-    std::optional<QByteArray> loadDataWithName(const QString& name, DocumentError* error = nullptr) const;
+    std::optional<QByteArray> loadDataWithName(const QString& name,
+                                               DocumentError* error = nullptr) const;
     bool fileExistsWithName(const QString& name) const;
     // A missing file counts as deleted. A folder is removed with its contents.
     bool deleteFileWithName(const QString& name, DocumentError* error = nullptr) const;

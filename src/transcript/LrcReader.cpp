@@ -3,7 +3,6 @@
 #include <QDebug>
 #include <QRegularExpression>
 #include <QStringDecoder>
-
 #include <cmath>
 #include <limits>
 
@@ -57,7 +56,8 @@ std::optional<StampMatch> matchStamp(const QString& line)
     const QRegularExpressionMatch m = pattern.match(line);
     if (!m.hasMatch() || m.lastCapturedIndex() != 4)
         return std::nullopt;
-    return StampMatch{m.capturedStart(0), m.captured(1), m.captured(2), m.captured(3), m.captured(4)};
+    return StampMatch{m.capturedStart(0), m.captured(1), m.captured(2), m.captured(3),
+                      m.captured(4)};
 }
 
 qint64 leadingIntegerValue(QStringView digits)

@@ -7,7 +7,6 @@
 #include <QString>
 #include <QStringList>
 #include <QStringView>
-
 #include <optional>
 
 // Reading transcripts back: bytes to text, text to lines, lines to time

@@ -1,11 +1,11 @@
 #include "app/BookmarkStore.h"
+
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using TestSupport::LogCapture;
@@ -65,8 +65,8 @@ TEST(BookmarkStore, ResolvingChecksTheFolder)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     EXPECT_FALSE(BookmarkStore::resolveBookmarkData(dir.filePath("file").toUtf8(), &stale, &error));
     EXPECT_TRUE(error.endsWith("Not a directory"));
-    for (const QByteArray& junk : {QByteArray(), QByteArray("relative/path"), QByteArray("/bad\xff utf8"),
-                                   QByteArray("/nul\0inside", 11)}) {
+    for (const QByteArray& junk : {QByteArray(), QByteArray("relative/path"),
+                                   QByteArray("/bad\xff utf8"), QByteArray("/nul\0inside", 11)}) {
         EXPECT_FALSE(BookmarkStore::resolveBookmarkData(junk, &stale, &error));
     }
     EXPECT_TRUE(BookmarkStore::startAccessingDirectory(dir.path()));
@@ -90,7 +90,8 @@ TEST(BookmarkStore, RestoreKeepsAGoodBookmarkAndClearsABadOne)
 
     // Only the bookmark, no file name: nothing is checked or removed.
     defaults.store().removeObject(fileKey);
-    store.saveBookmarkData(BookmarkStore::bookmarkDataForDirectory(folder.filePath("gone")), bookmarkKey);
+    store.saveBookmarkData(BookmarkStore::bookmarkDataForDirectory(folder.filePath("gone")),
+                           bookmarkKey);
     log.clear();
     store.restoreLastAudioFile();
     EXPECT_TRUE(defaults.store().hasUserValue(bookmarkKey));
@@ -115,8 +116,10 @@ TEST(BookmarkStore, DamagedStoredValueIsClearedToo)
     EXPECT_FALSE(store.loadBookmarkDataForKey(bookmarkKey));
     LogCapture log;
     store.restoreLastAudioFile();
-    EXPECT_EQ(log.lines(),
-              QStringList{"Error resolving directory bookmark: The bookmark data is not valid base64 text"});
+    EXPECT_EQ(
+        log.lines(),
+        QStringList{
+            "Error resolving directory bookmark: The bookmark data is not valid base64 text"});
     EXPECT_FALSE(defaults.store().hasUserValue(bookmarkKey));
     EXPECT_FALSE(defaults.store().hasUserValue(fileKey));
 }

@@ -1,4 +1,5 @@
 #include "app/FileIdentity.h"
+
 #include "support/TestSupport.h"
 #include "transcript/DocumentManager.h"
 
@@ -9,9 +10,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimeZone>
-
 #include <gtest/gtest.h>
-
 #include <sys/stat.h>
 
 namespace {
@@ -50,7 +49,8 @@ TEST_F(FileIdentityTest, KeyHoldsPathSizeTimesAndFileNumber)
 
     struct stat st = {};
     ASSERT_EQ(stat(QFile::encodeName(audio).constData(), &st), 0);
-    const QString fileNumber = QStringLiteral("%1:%2").arg(quint64(st.st_dev)).arg(quint64(st.st_ino));
+    const QString fileNumber =
+        QStringLiteral("%1:%2").arg(quint64(st.st_dev)).arg(quint64(st.st_ino));
     const QString birth = QStringLiteral("(\\(null\\)|\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ)");
     const QRegularExpression shape("^" + QRegularExpression::escape(audio) + "_16_" + birth +
                                    "_2026-11-22T09:14:03Z_" + fileNumber + "$");
@@ -130,6 +130,7 @@ TEST_F(FileIdentityTest, TranscriptLivesUnderTranscriptionsInTheDocumentsFolder)
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     blocker.close();
     TestSupport::LogCapture log;
-    EXPECT_TRUE(FileIdentity::transcriptionPathForIdentifier(id, DocumentManager(dir.filePath("blocker/x")))
-                    .isNull());
+    EXPECT_TRUE(
+        FileIdentity::transcriptionPathForIdentifier(id, DocumentManager(dir.filePath("blocker/x")))
+            .isNull());
 }

@@ -1,10 +1,10 @@
 #include "app/Utility.h"
+
 #include "support/TestSupport.h"
 
 #include <QColor>
 #include <QDateTime>
 #include <QRegularExpression>
-
 #include <gtest/gtest.h>
 
 TEST(Utility, HexStringFromColorTruncatesEachComponent)
@@ -16,7 +16,8 @@ TEST(Utility, HexStringFromColorTruncatesEachComponent)
     EXPECT_EQ(Utility::hexStringFromColor(QColor::fromCmyk(0, 0, 0, 255)), "#000000");
     // Every 8-bit value comes back as itself, with no floating-point step lost.
     for (int v = 0; v < 256; ++v)
-        ASSERT_EQ(Utility::hexStringFromColor(QColor(v, v, v)), QString::asprintf("#%02X%02X%02X", v, v, v));
+        ASSERT_EQ(Utility::hexStringFromColor(QColor(v, v, v)),
+                  QString::asprintf("#%02X%02X%02X", v, v, v));
 }
 
 TEST(Utility, ColorWithoutAnRgbFormGivesNothingAndOneLogLine)
@@ -53,7 +54,9 @@ TEST(Utility, SafeSubstringNeverFailsOnAShortString)
 TEST(Utility, DateTimeHasMilliseconds)
 {
     const QString now = Utility::getDateTime();
-    EXPECT_TRUE(QRegularExpression("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}$").match(now).hasMatch())
+    EXPECT_TRUE(QRegularExpression("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}$")
+                    .match(now)
+                    .hasMatch())
         << qPrintable(now);
     const QDateTime parsed = QDateTime::fromString(now, "yyyy-MM-dd HH:mm:ss.zzz");
     EXPECT_LT(qAbs(parsed.secsTo(QDateTime::currentDateTime())), 5);

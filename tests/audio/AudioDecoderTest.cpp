@@ -1,9 +1,9 @@
 #include "audio/AudioDecoder.h"
+
 #include "audio/AudioManager.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
-
 #include <vector>
 
 using TestSupport::fixture;
@@ -45,11 +45,11 @@ Decoded decodeAll(const QString& name)
 TEST(AudioDecoder, NamesTheFormatByCodecNotByExtension)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"speech.mp3", "MP3"},        {"speech_vbr.mp3", "MP3"},      {"speech_aac.m4a", "AAC"},
-        {"speech.m4r", "AAC"},        {"speech.aac", "AAC"},          {"speech_alac.m4a", "M4A"},
-        {"speech.flac", "FLAC"},      {"speech_24bit.flac", "FLAC"},  {"speech.wav", "WAV"},
-        {"speech_float.wav", "WAV"},  {"speech.aiff", "WAV"},         {"speech.aif", "WAV"},
-        {"speech.caf", "WAV"},        {"speech_alaw.wav", "Unknown"},
+        {"speech.mp3", "MP3"},       {"speech_vbr.mp3", "MP3"},      {"speech_aac.m4a", "AAC"},
+        {"speech.m4r", "AAC"},       {"speech.aac", "AAC"},          {"speech_alac.m4a", "M4A"},
+        {"speech.flac", "FLAC"},     {"speech_24bit.flac", "FLAC"},  {"speech.wav", "WAV"},
+        {"speech_float.wav", "WAV"}, {"speech.aiff", "WAV"},         {"speech.aif", "WAV"},
+        {"speech.caf", "WAV"},       {"speech_alaw.wav", "Unknown"},
     };
     for (const auto& [file, name] : cases) {
         AudioDecoder decoder;

@@ -7,11 +7,9 @@
 
 #include <QRegularExpression>
 #include <QThread>
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <atomic>
+#include <gtest/gtest.h>
 #include <memory>
 
 using TestSupport::fixture;
@@ -46,11 +44,11 @@ TEST_F(AudioManagerAnalysis, SameSpeechInEveryFormatCutsTheSameSegments)
     const SegmentList reference = engine.segments();
     ASSERT_EQ(reference.size(), 5);
 
-    for (const char* file : {"speech.mp3", "speech_vbr.mp3", "speech_aac.m4a", "speech.m4r",
-                             "speech.aac", "speech_alac.m4a", "speech.flac", "speech_24bit.flac",
-                             "speech.aiff", "speech.aif", "speech.caf", "speech_float.wav",
-                             "speech_stereo.wav", "speech_6ch.wav", "speech_48k.wav",
-                             "speech_cover.mp3"}) {
+    for (const char* file :
+         {"speech.mp3", "speech_vbr.mp3", "speech_aac.m4a", "speech.m4r", "speech.aac",
+          "speech_alac.m4a", "speech.flac", "speech_24bit.flac", "speech.aiff", "speech.aif",
+          "speech.caf", "speech_float.wav", "speech_stereo.wav", "speech_6ch.wav", "speech_48k.wav",
+          "speech_cover.mp3"}) {
         ASSERT_TRUE(load(file)) << file << ": " << qPrintable(engine.lastError());
         const SegmentList& segments = engine.segments();
         ASSERT_EQ(segments.size(), reference.size()) << file;
@@ -103,7 +101,8 @@ TEST_F(AudioManagerAnalysis, SilenceThroughoutIsOneSegment)
 {
     ASSERT_TRUE(load("silent.wav"));
     const AudioCharacteristics& c = engine.audioCharacteristics();
-    EXPECT_TRUE(std::all_of(c.rmsValues.begin(), c.rmsValues.end(), [](float v) { return v == 0.0f; }));
+    EXPECT_TRUE(
+        std::all_of(c.rmsValues.begin(), c.rmsValues.end(), [](float v) { return v == 0.0f; }));
     EXPECT_EQ(c.averageRMS, 0.0f);
     EXPECT_EQ(c.stdDev, 0.0f);
     EXPECT_EQ(c.minRMS, 0.0f);
@@ -130,18 +129,16 @@ TEST_F(AudioManagerAnalysis, BadFilesFailWithTheirLogLineAndKeepThePreviousLoad)
         const char* file;
         const char* logLine;
     } cases[] = {
-        {"empty.mp3", "audio samples is 0"},
-        {"text.mp3", "audio samples is 0"},
-        {"random.flac", "audio samples is 0"},
-        {"broken_header.wav", "audio samples is 0"},
-        {"no-such-file.wav", "audio samples is 0"},
-        {"short_0.05s.wav", "Error audio duration"},
+        {"empty.mp3", "audio samples is 0"},        {"text.mp3", "audio samples is 0"},
+        {"random.flac", "audio samples is 0"},      {"broken_header.wav", "audio samples is 0"},
+        {"no-such-file.wav", "audio samples is 0"}, {"short_0.05s.wav", "Error audio duration"},
         {"tone_250.wav", "Error audio duration"},
     };
     for (const auto& c : cases) {
         TestSupport::LogCapture log;
         EXPECT_FALSE(load(c.file)) << c.file;
-        EXPECT_TRUE(log.contains(c.logLine)) << c.file << ": " << qPrintable(log.lines().join(" | "));
+        EXPECT_TRUE(log.contains(c.logLine))
+            << c.file << ": " << qPrintable(log.lines().join(" | "));
         EXPECT_FALSE(engine.lastError().isEmpty()) << c.file;
         EXPECT_EQ(engine.segments(), before) << c.file;
     }

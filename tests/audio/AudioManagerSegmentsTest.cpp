@@ -9,7 +9,6 @@
 #include "support/TestSupport.h"
 
 #include <QObject>
-
 #include <gtest/gtest.h>
 
 using TestSupport::fixture;

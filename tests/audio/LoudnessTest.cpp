@@ -1,10 +1,10 @@
-#include "audio/AudioManager.h"
 #include "audio/Loudness.h"
+
+#include "audio/AudioManager.h"
 #include "audio/WaveformPeaks.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <vector>
 
 TEST(Loudness, RmsOfABufferAndOfNothing)

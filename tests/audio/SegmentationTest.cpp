@@ -4,7 +4,6 @@
 #include "audio/Segmentation.h"
 
 #include <gtest/gtest.h>
-
 #include <initializer_list>
 #include <utility>
 
@@ -52,7 +51,8 @@ TEST(AdaptiveThreshold, KeptBetweenOneAndFiftyPercentOfTheLoudestFrame)
 TEST(SilenceDetection, InteriorSilenceNeedsHalfASecond)
 {
     // 25 quiet frames are exactly 0.5 s and count; 24 (0.48 s) do not.
-    const auto counted = detectSilences(runs({{kLoud, 50}, {kQuiet, 25}, {kLoud, 50}}), kThreshold, kMedium);
+    const auto counted =
+        detectSilences(runs({{kLoud, 50}, {kQuiet, 25}, {kLoud, 50}}), kThreshold, kMedium);
     ASSERT_EQ(counted.size(), 1);
     EXPECT_FLOAT_EQ(counted[0].start, 1.0f);
     EXPECT_FLOAT_EQ(counted[0].duration, 0.5f);
@@ -83,7 +83,8 @@ TEST(SilenceDetection, RunMustReachTheSensitivityCountToOpen)
 
     // A silence is dated from the first quiet frame whatever the count needed.
     for (int level : {kLow, kMedium, kHigh}) {
-        const auto s = detectSilences(runs({{kLoud, 10}, {kQuiet, 30}, {kLoud, 10}}), kThreshold, level);
+        const auto s =
+            detectSilences(runs({{kLoud, 10}, {kQuiet, 30}, {kLoud, 10}}), kThreshold, level);
         ASSERT_EQ(s.size(), 1) << "sensitivity " << level;
         EXPECT_FLOAT_EQ(s[0].start, 0.2f);
         EXPECT_FLOAT_EQ(s[0].duration, 0.6f);
@@ -101,7 +102,8 @@ TEST(SilenceDetection, ALoudFrameResetsTheRun)
     EXPECT_TRUE(detectSilences(QList<float>(100, kThreshold), kThreshold, kMedium).isEmpty());
 
     // At high sensitivity a single quiet frame opens one, though too short to keep.
-    EXPECT_TRUE(detectSilences(runs({{kLoud, 5}, {kQuiet, 1}, {kLoud, 5}}), kThreshold, kHigh).isEmpty());
+    EXPECT_TRUE(
+        detectSilences(runs({{kLoud, 5}, {kQuiet, 1}, {kLoud, 5}}), kThreshold, kHigh).isEmpty());
     EXPECT_EQ(detectSilences(runs({{kLoud, 5}, {kQuiet, 5}}), kThreshold, kHigh).size(), 1);
 }
 
@@ -122,8 +124,8 @@ TEST(Cutting, SkippedMidpointsMakeLongerSegments)
 {
     // With 2 s minimum the cut at 1.0 is too early, 2.5 is taken, 4.0 is too
     // close to it, and 5.0 ends a 2.5 s segment.
-    const QList<Silence> silences{{0.8f, 0.5f, 1.0f}, {2.2f, 0.6f, 2.5f}, {3.8f, 0.5f, 4.0f},
-                                  {4.8f, 0.5f, 5.0f}};
+    const QList<Silence> silences{
+        {0.8f, 0.5f, 1.0f}, {2.2f, 0.6f, 2.5f}, {3.8f, 0.5f, 4.0f}, {4.8f, 0.5f, 5.0f}};
     const SegmentList segments = cutAtMidpoints(silences, 400, 2.0, 8.0);
     ASSERT_EQ(segments.size(), 2);
     EXPECT_FLOAT_EQ(float(segments[0].duration), 2.5f);
@@ -172,8 +174,8 @@ TEST(LoadFixups, FirstReachesBackToZeroAndLastStopsASecondBeforeTheEnd)
 TEST(Segmentation, WholePipelineOnAHandMadeRecording)
 {
     // Speech, 0.6 s pause, speech, 0.4 s pause (ignored), speech, quiet tail.
-    const QList<float> rms = runs({{kLoud, 100}, {kQuiet, 30}, {kLoud, 80}, {kQuiet, 20},
-                                   {kLoud, 90}, {kQuiet, 10}});
+    const QList<float> rms =
+        runs({{kLoud, 100}, {kQuiet, 30}, {kLoud, 80}, {kQuiet, 20}, {kLoud, 90}, {kQuiet, 10}});
     const double duration = rms.size() * 0.02;
     const QList<Silence> silences = detectSilences(rms, kThreshold, kMedium);
     ASSERT_EQ(silences.size(), 2);

@@ -11,7 +11,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using TestSupport::fixture;
@@ -36,7 +35,8 @@ protected:
         p.setProcessEnvironment(env);
         p.start(TestSupport::cliPath(), args);
         EXPECT_TRUE(p.waitForFinished(60000)) << qPrintable(args.join(' '));
-        EXPECT_EQ(p.exitStatus(), QProcess::NormalExit) << "crashed: " << qPrintable(args.join(' '));
+        EXPECT_EQ(p.exitStatus(), QProcess::NormalExit)
+            << "crashed: " << qPrintable(args.join(' '));
         return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
     }
 
@@ -75,11 +75,12 @@ TEST_F(Cli, AnalyzePrintsEveryKeyInItsOrder)
 {
     const Result r = run({"analyze", fixture("speech.mp3")});
     ASSERT_EQ(r.exitCode, 0) << r.err.constData();
-    EXPECT_TRUE(r.err.isEmpty()) << "diagnostics stay quiet without --verbose: " << r.err.constData();
-    const QStringList keys{"audioFormat", "sampleRate", "channels",  "channelInfo", "totalSamples",
-                           "duration",    "bitRate",    "averageRMS", "maxRMS",     "minRMS",
-                           "stdDev",      "rmsCount",   "threshold", "silences",    "segments",
-                           "waveformPoints"};
+    EXPECT_TRUE(r.err.isEmpty()) << "diagnostics stay quiet without --verbose: "
+                                 << r.err.constData();
+    const QStringList keys{"audioFormat",  "sampleRate", "channels", "channelInfo",
+                           "totalSamples", "duration",   "bitRate",  "averageRMS",
+                           "maxRMS",       "minRMS",     "stdDev",   "rmsCount",
+                           "threshold",    "silences",   "segments", "waveformPoints"};
     qsizetype at = 0;
     for (const QString& key : keys) {
         const qsizetype found = r.out.indexOf("\n  \"" + key.toUtf8() + "\":");
@@ -95,7 +96,8 @@ TEST_F(Cli, AnalyzePrintsEveryKeyInItsOrder)
     EXPECT_EQ(o.value("bitRate").toInteger(), 128000);
     EXPECT_GT(o.value("waveformPoints").toInt(), 6000);
     const QJsonObject silence = o.value("silences").toArray().first().toObject();
-    EXPECT_TRUE(silence.contains("start") && silence.contains("duration") && silence.contains("midPoint"));
+    EXPECT_TRUE(silence.contains("start") && silence.contains("duration") &&
+                silence.contains("midPoint"));
 
     const QJsonObject withRms = analyze({fixture("speech.mp3"), "--rms"});
     EXPECT_EQ(withRms.value("rmsValues").toArray().size(), withRms.value("rmsCount").toInt());
@@ -159,7 +161,8 @@ TEST_F(Cli, UsageErrorsExitTwoAndHelpExitsZero)
     EXPECT_EQ(run({"analyze"}).exitCode, 2);
     EXPECT_EQ(run({"analyze", fixture("speech.wav"), fixture("speech.wav")}).exitCode, 2);
     EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--sensitivity", "5"}).exitCode, 2);
-    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--min-segment-duration", "soon"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--min-segment-duration", "soon"}).exitCode,
+              2);
     EXPECT_EQ(run({"split", fixture("speech.wav"), "--rms"}).exitCode, 2);
 
     const Result help = run({"--help"});

@@ -2,9 +2,7 @@
 
 #include <QObject>
 #include <QThread>
-
 #include <gtest/gtest.h>
-
 #include <memory>
 
 TEST(NotificationCenter, DeliversByNameInSubscriptionOrderWithPayload)

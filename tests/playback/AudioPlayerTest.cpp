@@ -2,18 +2,14 @@
 // gets after a seek, at rate 1.0, when stretched, and at the end of a file.
 
 #include "PlayerTestSupport.h"
-
 #include "support/TestSupport.h"
 
 #include <QSignalSpy>
-
-#include <gtest/gtest.h>
-
-#include <ostream>
-
 #include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <gtest/gtest.h>
+#include <ostream>
 #include <thread>
 
 using namespace PlayerTest;
@@ -64,7 +60,8 @@ TEST_P(SeekAccuracy, NextSamplesAfterASeekEqualTheStraightDecode)
     Lcg random{uint32_t(total)};
     constexpr qsizetype kFrames = 4096;
     for (int round = 0; round < 8; ++round) {
-        const qsizetype target = round == 0 ? 0 : qsizetype(random.next() % uint32_t(total - kFrames));
+        const qsizetype target =
+            round == 0 ? 0 : qsizetype(random.next() % uint32_t(total - kFrames));
         p.player->setCurrentTime(double(target) / rate);
         EXPECT_NEAR(p.player->currentTime(), double(target) / rate, 1e-9);
         const std::vector<float> got = p.take(kFrames);
@@ -81,25 +78,25 @@ TEST_P(SeekAccuracy, NextSamplesAfterASeekEqualTheStraightDecode)
                 firstBad = qsizetype(i) / channels;
             worst = std::max(worst, d);
         }
-        EXPECT_LE(worst, tolerance) << c.file << " at frame " << target << ", first difference at +"
-                                      << firstBad;
+        EXPECT_LE(worst, tolerance)
+            << c.file << " at frame " << target << ", first difference at +" << firstBad;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Formats, SeekAccuracy,
-                         ::testing::Values(SeekCase{"speech_vbr.mp3", 0.0f}, SeekCase{"speech.mp3", 0.0f},
-                                           SeekCase{"speech_aac_nopns.m4a", 0.0f, 1e-3f},
-                                           SeekCase{"speech_aac.m4a", 1e-2f},
-                                           SeekCase{"speech_alac.m4a", 0.0f}, SeekCase{"speech.flac", 0.0f},
-                                           SeekCase{"speech.wav", 0.0f},
-                                           SeekCase{"speech_stereo.wav", 0.0f}),
-                         [](const auto& param) {
-                             std::string name = param.param.file;
-                             for (char& ch : name)
-                                 if (!std::isalnum(static_cast<unsigned char>(ch)))
-                                     ch = '_';
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Formats, SeekAccuracy,
+    ::testing::Values(SeekCase{"speech_vbr.mp3", 0.0f}, SeekCase{"speech.mp3", 0.0f},
+                      SeekCase{"speech_aac_nopns.m4a", 0.0f, 1e-3f},
+                      SeekCase{"speech_aac.m4a", 1e-2f}, SeekCase{"speech_alac.m4a", 0.0f},
+                      SeekCase{"speech.flac", 0.0f}, SeekCase{"speech.wav", 0.0f},
+                      SeekCase{"speech_stereo.wav", 0.0f}),
+    [](const auto& param) {
+        std::string name = param.param.file;
+        for (char& ch : name)
+            if (!std::isalnum(static_cast<unsigned char>(ch)))
+                ch = '_';
+        return name;
+    });
 
 TEST(AudioPlayer, AtRateOneTheWholeFileIsPlayedUnchangedThenItReportsTheEnd)
 {
@@ -257,9 +254,9 @@ TEST(AudioPlayer, AFileThatIsNotAudioCannotBeOpened)
     QString error;
     for (const char* name : {"text.mp3", "empty.mp3", "missing.wav"}) {
         error.clear();
-        EXPECT_FALSE(AudioPlayer::create(fixture(name), std::make_unique<NullAudioOutput>(
-                                                            NullAudioOutput::Clocking::Manual),
-                                         &error))
+        EXPECT_FALSE(AudioPlayer::create(
+            fixture(name), std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::Manual),
+            &error))
             << name;
         EXPECT_FALSE(error.isEmpty()) << name;
     }

@@ -4,7 +4,6 @@
 #include "support/TestSupport.h"
 
 #include <QProcess>
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -31,9 +30,11 @@ CliRun play(const QStringList& args)
 
 TEST(PlayCommand, PlaysASegmentTheAskedNumberOfTimesWithoutADevice)
 {
-    const CliRun r = play({TestSupport::fixture("speech.wav"), "--segment", "0", "--rate", "3", "--repeat", "2"});
+    const CliRun r = play(
+        {TestSupport::fixture("speech.wav"), "--segment", "0", "--rate", "3", "--repeat", "2"});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_TRUE(r.out.startsWith("segment 0: 0.000 s to 2.000 s, 2 times at 3.00x")) << r.out.toStdString();
+    EXPECT_TRUE(r.out.startsWith("segment 0: 0.000 s to 2.000 s, 2 times at 3.00x"))
+        << r.out.toStdString();
     EXPECT_TRUE(r.out.contains("play 2 of 2")) << r.out.toStdString();
     EXPECT_TRUE(r.out.trimmed().endsWith("done")) << r.out.toStdString();
     EXPECT_TRUE(r.err.contains("no sound device; playing silently")) << r.err.toStdString();

@@ -3,7 +3,6 @@
 // into a manually clocked null output, so positions stay where they were set.
 
 #include "VirtualClock.h"
-
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
 #include "audio/NullAudioOutput.h"
@@ -16,20 +15,20 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QThread>
-
 #include <gtest/gtest.h>
-
 #include <thread>
 
 using TestSupport::fixture;
 
 namespace {
 
-const char* const kPlaybackNames[] = {
-    Notifications::AudioPlaying,          Notifications::AudioPlaybackDidPause,
-    Notifications::AudioPlaybackDidResume, Notifications::AudioPlayStop,
-    Notifications::AutoUpdateWavePosDidUpdate, Notifications::AudioFileDidClose,
-    Notifications::AudioPlaybackPositionDidUpdate};
+const char* const kPlaybackNames[] = {Notifications::AudioPlaying,
+                                      Notifications::AudioPlaybackDidPause,
+                                      Notifications::AudioPlaybackDidResume,
+                                      Notifications::AudioPlayStop,
+                                      Notifications::AutoUpdateWavePosDidUpdate,
+                                      Notifications::AudioFileDidClose,
+                                      Notifications::AudioPlaybackPositionDidUpdate};
 
 class PlaybackEngine : public ::testing::Test
 {
@@ -55,7 +54,8 @@ protected:
                 if (n.name == QLatin1String(Notifications::AutoUpdateWavePosDidUpdate))
                     entry += n.object.toBool() ? ":true" : ":false";
                 else
-                    EXPECT_EQ(n.object.value<AudioManager*>(), engine.get()) << n.name.toStdString();
+                    EXPECT_EQ(n.object.value<AudioManager*>(), engine.get())
+                        << n.name.toStdString();
                 events.append(entry);
             });
         }
@@ -64,8 +64,8 @@ protected:
         ASSERT_TRUE(loaded);
         ASSERT_TRUE(engine->audioPlayer());
         // Round numbers: segment i starts at starts[i]; the file lasts 14.36 s.
-        ASSERT_TRUE(engine->updateSegments(
-            {{0.0, 2.0}, {2.0, 2.5}, {4.8, 3.0}, {8.0, 3.0}, {11.5, 1.5}}));
+        ASSERT_TRUE(
+            engine->updateSegments({{0.0, 2.0}, {2.0, 2.5}, {4.8, 3.0}, {8.0, 3.0}, {11.5, 1.5}}));
         engine->setPlaybackCompletionHandler([this] {
             ++completions;
             EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
@@ -75,7 +75,10 @@ protected:
 
     // How many notifications with this entry were recorded.
     qsizetype count(const QString& entry) const { return events.count(entry); }
-    QString endFalse() const { return QString(Notifications::AutoUpdateWavePosDidUpdate) + ":false"; }
+    QString endFalse() const
+    {
+        return QString(Notifications::AutoUpdateWavePosDidUpdate) + ":false";
+    }
     QString endTrue() const { return QString(Notifications::AutoUpdateWavePosDidUpdate) + ":true"; }
 
     // Advances to just before `seconds` from now and checks the segment end
@@ -102,7 +105,8 @@ protected:
 
 } // namespace
 
-TEST_F(PlaybackEngine, SegmentEndTimerRunsToTheNextStartOrForTheLastSegmentsDurationDividedByTheRate)
+TEST_F(PlaybackEngine,
+       SegmentEndTimerRunsToTheNextStartOrForTheLastSegmentsDurationDividedByTheRate)
 {
     for (const float rate : {1.0f, 2.0f}) {
         SCOPED_TRACE(rate);
@@ -154,7 +158,8 @@ TEST_F(PlaybackEngine, RepeatCounterCountsStartsOfTheSameSegmentInRepeatModeOnly
     engine->setRepeatMode(false);
     engine->pausePlayback();
     engine->playSegmentAtIndex(3);
-    EXPECT_EQ(engine->currentSegmentRepeatedTimes(), 1) << "replays are not counted outside repeat mode";
+    EXPECT_EQ(engine->currentSegmentRepeatedTimes(), 1)
+        << "replays are not counted outside repeat mode";
     engine->playSegmentAtIndex(0);
     EXPECT_EQ(engine->currentSegmentRepeatedTimes(), 1);
     EXPECT_EQ(engine->currentSegmentIndex(), 0);
@@ -225,10 +230,11 @@ TEST_F(PlaybackEngine, NotificationsCarryTheirStatusCodesInOrder)
     engine->stop();
     engine->closeAudioFile();
     using namespace Notifications;
-    EXPECT_EQ(events, (QStringList{QString(AudioPlaying) + ":1", QString(AudioPlaybackDidPause) + ":2",
-                                   QString(AudioPlaybackDidPause) + ":0",
-                                   QString(AudioPlaybackDidResume) + ":3", QString(AudioPlayStop) + ":0",
-                                   QString(AudioPlayStop) + ":0", QString(AudioFileDidClose)}));
+    EXPECT_EQ(events,
+              (QStringList{QString(AudioPlaying) + ":1", QString(AudioPlaybackDidPause) + ":2",
+                           QString(AudioPlaybackDidPause) + ":0",
+                           QString(AudioPlaybackDidResume) + ":3", QString(AudioPlayStop) + ":0",
+                           QString(AudioPlayStop) + ":0", QString(AudioFileDidClose)}));
     EXPECT_EQ(engine->audioPlayer(), nullptr);
     EXPECT_EQ(engine->numberOfSegments(), 0);
     EXPECT_TRUE(engine->waveformData().isEmpty());

@@ -2,10 +2,9 @@
 
 #include "audio/AudioDecoder.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <thread>
 
 namespace PlayerTest {
@@ -71,7 +70,8 @@ std::vector<float> ManualPlayer::take(qsizetype frames)
         got.insert(got.end(), block.begin(), block.begin() + sound * channels);
         if (sound == 0) {
             if (std::chrono::steady_clock::now() > deadline) {
-                ADD_FAILURE() << "playback stalled after " << got.size() / size_t(channels) << " frames";
+                ADD_FAILURE() << "playback stalled after " << got.size() / size_t(channels)
+                              << " frames";
                 break;
             }
             std::this_thread::sleep_for(std::chrono::milliseconds(1));

@@ -4,7 +4,6 @@
 #include "audio/NullAudioOutput.h"
 
 #include <QString>
-
 #include <memory>
 #include <vector>
 

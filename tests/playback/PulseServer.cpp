@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QThread>
-
 #include <csignal>
 #include <sys/types.h>
 #include <unistd.h>
@@ -53,13 +52,14 @@ std::unique_ptr<PulseServer> PulseServer::start(QString* whyNot)
     env.insert(QStringLiteral("PULSE_STATE_PATH"), dir + QStringLiteral("/state"));
     env.remove(QStringLiteral("PULSE_SERVER"));
     QString output;
-    const bool started = run(QStringLiteral("pulseaudio"),
-                             {QStringLiteral("--daemonize=yes"), QStringLiteral("-n"),
-                              QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=yes"),
-                              QStringLiteral("--load=module-null-sink sink_name=testsink rate=48000 channels=2"),
-                              QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 socket=") + socket,
-                              QStringLiteral("--load=module-always-sink")},
-                             env, &output, 15000);
+    const bool started =
+        run(QStringLiteral("pulseaudio"),
+            {QStringLiteral("--daemonize=yes"), QStringLiteral("-n"),
+             QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=yes"),
+             QStringLiteral("--load=module-null-sink sink_name=testsink rate=48000 channels=2"),
+             QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 socket=") + socket,
+             QStringLiteral("--load=module-always-sink")},
+            env, &output, 15000);
     QFile pidFile(dir + QStringLiteral("/runtime/pid"));
     if (pidFile.open(QIODevice::ReadOnly))
         server->m_daemonPid = QString::fromLatin1(pidFile.readAll()).trimmed().toLongLong();
@@ -82,7 +82,8 @@ std::unique_ptr<PulseServer> PulseServer::start(QString* whyNot)
 
     server->m_silence.setProcessEnvironment(env);
     server->m_silence.setStandardInputFile(QStringLiteral("/dev/zero"));
-    server->m_silence.start(QStringLiteral("pacat"), {QStringLiteral("-p"), QStringLiteral("--latency-msec=20")});
+    server->m_silence.start(QStringLiteral("pacat"),
+                            {QStringLiteral("-p"), QStringLiteral("--latency-msec=20")});
     if (!server->m_silence.waitForStarted(5000)) {
         *whyNot = QStringLiteral("pacat did not start");
         return nullptr;
@@ -91,8 +92,9 @@ std::unique_ptr<PulseServer> PulseServer::start(QString* whyNot)
     // the silent one, before anything that matters plays or records.
     waited.restart();
     while (waited.elapsed() < 10000) {
-        run(QStringLiteral("pactl"), {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")},
-            env, &output);
+        run(QStringLiteral("pactl"),
+            {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")}, env,
+            &output);
         if (!output.isEmpty())
             break;
         QThread::msleep(50);
@@ -135,14 +137,19 @@ bool PulseServer::startRecording(QString* whyNot)
     m_recorder.setStandardOutputFile(m_capturePath, QIODevice::Truncate);
     // A stopped parec loses what it still buffers, so its latency is kept
     // short; not too short, or a busy machine makes it overflow and drop audio.
-    const QStringList parec{QStringLiteral("parec"),          QStringLiteral("--latency-msec=100"),
-                            QStringLiteral("-d"),             QStringLiteral("testsink.monitor"),
-                            QStringLiteral("--format=s16le"), QStringLiteral("--rate=48000"),
-                            QStringLiteral("--channels=1"),   QStringLiteral("--raw")};
+    const QStringList parec{QStringLiteral("parec"),
+                            QStringLiteral("--latency-msec=100"),
+                            QStringLiteral("-d"),
+                            QStringLiteral("testsink.monitor"),
+                            QStringLiteral("--format=s16le"),
+                            QStringLiteral("--rate=48000"),
+                            QStringLiteral("--channels=1"),
+                            QStringLiteral("--raw")};
     // On a busy machine a starved recorder drops audio; as root it can be
     // given precedence.
     if (::geteuid() == 0)
-        m_recorder.start(QStringLiteral("nice"), QStringList{QStringLiteral("-n"), QStringLiteral("-10")} + parec);
+        m_recorder.start(QStringLiteral("nice"),
+                         QStringList{QStringLiteral("-n"), QStringLiteral("-10")} + parec);
     else
         m_recorder.start(parec.first(), parec.mid(1));
     if (!m_recorder.waitForStarted(5000)) {

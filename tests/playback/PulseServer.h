@@ -4,7 +4,6 @@
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
-
 #include <memory>
 
 // A private PulseAudio server with one null sink ("testsink", 48 kHz stereo)
@@ -32,7 +31,7 @@ private:
     QTemporaryDir m_dir;
     QString m_address;
     qint64 m_daemonPid = 0;
-    QProcess m_silence;  // keeps the sink from idling: its first stream would stall
+    QProcess m_silence; // keeps the sink from idling: its first stream would stall
     QProcess m_recorder;
     QString m_capturePath;
     QElapsedTimer m_recordingSince;

@@ -4,18 +4,15 @@
 
 #include "PlayerTestSupport.h"
 #include "PulseServer.h"
-
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
 #include "common/NotificationCenter.h"
 #include "support/TestSupport.h"
 
 #include <QElapsedTimer>
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <complex>
+#include <gtest/gtest.h>
 
 using TestSupport::fixture;
 
@@ -212,15 +209,17 @@ TEST(RealSound, SegmentTwoIsHeardFromItsStartForItsLengthAtFullAndHalfSpeed)
             if (!take.error.isEmpty())
                 break;
             take.measure(reference, length / rate);
-            std::printf("rate %.1f, take %d: segment found at %.3f s of the recording (r=%.4f), sound from "
-                        "%.3f to %.3f s, %.3f s played of %.3f s expected\n",
-                        double(rate), attempt, take.lagSeconds, take.coefficient, take.firstSound,
-                        take.lastSound, take.heard, length / rate);
+            std::printf(
+                "rate %.1f, take %d: segment found at %.3f s of the recording (r=%.4f), sound from "
+                "%.3f to %.3f s, %.3f s played of %.3f s expected\n",
+                double(rate), attempt, take.lagSeconds, take.coefficient, take.firstSound,
+                take.lastSound, take.heard, length / rate);
             if (take.clean())
                 break;
         }
         ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
-        EXPECT_GT(take.coefficient, 0.98) << "the segment's audio is not in the recording unchanged";
+        EXPECT_GT(take.coefficient, 0.98)
+            << "the segment's audio is not in the recording unchanged";
         EXPECT_NEAR(take.firstSound, take.lagSeconds, 0.002) << "sound before the segment's start";
         EXPECT_NEAR(take.heard, length / rate, 0.01 * length / rate + 0.03);
     }

@@ -1,10 +1,10 @@
-#include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
+
+#include "preferences/DefaultPreferences.h"
 #include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
 
 #include <QFile>
-
 #include <gtest/gtest.h>
 
 using TestSupport::TempDefaults;

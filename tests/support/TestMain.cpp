@@ -3,11 +3,9 @@
 // log is kept out of the test output unless KELMORA_TEST_LOG is set.
 
 #include <QCoreApplication>
-
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <cstdlib>
+#include <gtest/gtest.h>
 
 namespace {
 void quietInfo(QtMsgType type, const QMessageLogContext&, const QString& message)

@@ -1,7 +1,6 @@
 #include "ChildProcess.h"
 
 #include <QFile>
-
 #include <cstdio>
 #include <fcntl.h>
 #include <linux/capability.h>
@@ -40,7 +39,8 @@ bool dropPermissionOverrides()
     __user_cap_data_struct data[2] = {};
     if (syscall(SYS_capget, &header, data) != 0)
         return false;
-    const unsigned dropped = (1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH) | (1u << CAP_FOWNER);
+    const unsigned dropped =
+        (1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH) | (1u << CAP_FOWNER);
     data[0].effective &= ~dropped;
     data[0].permitted &= ~dropped;
     return syscall(SYS_capset, &header, data) == 0;
@@ -72,8 +72,10 @@ bool mountPrivateTmpfs(const QString& dir, const QString& options)
             return false;
         // Map ourselves so that files made in the tmpfs have an owner.
         writeProc("/proc/self/setgroups", "deny");
-        if (!writeProc("/proc/self/uid_map", QByteArray::number(uid) + ' ' + QByteArray::number(uid) + " 1") ||
-            !writeProc("/proc/self/gid_map", QByteArray::number(gid) + ' ' + QByteArray::number(gid) + " 1"))
+        if (!writeProc("/proc/self/uid_map",
+                       QByteArray::number(uid) + ' ' + QByteArray::number(uid) + " 1") ||
+            !writeProc("/proc/self/gid_map",
+                       QByteArray::number(gid) + ' ' + QByteArray::number(gid) + " 1"))
             return false;
     }
     // Keep the mount out of the parent's namespace.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-
 #include <functional>
 
 // Faults that only a separate process may set up (a file-size limit, fewer

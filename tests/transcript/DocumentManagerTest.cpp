@@ -1,12 +1,12 @@
-#include "support/TestSupport.h"
 #include "transcript/DocumentManager.h"
+
+#include "support/TestSupport.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,6 +1,7 @@
+#include "transcript/LrcReader.h"
+
 #include "support/TestSupport.h"
 #include "transcript/LrcLine.h"
-#include "transcript/LrcReader.h"
 
 #include <gtest/gtest.h>
 
@@ -38,8 +39,8 @@ TEST(LrcReader, FractionIsAlwaysReadAsMilliseconds)
     EXPECT_DOUBLE_EQ(stampOf("[00:01.500]"), 1.5);
     EXPECT_DOUBLE_EQ(stampOf("[00:01.123456]"), 1.123);
     EXPECT_DOUBLE_EQ(stampOf("[99:99.999]"), 99 * 60 + 99 + 0.999); // seconds are not capped at 59
-    EXPECT_EQ(stampOf("[00:01.1234567]"), -1.0); // seven digits
-    EXPECT_EQ(stampOf("[00:05]text"), -1.0);     // no fraction
+    EXPECT_EQ(stampOf("[00:01.1234567]"), -1.0);                    // seven digits
+    EXPECT_EQ(stampOf("[00:05]text"), -1.0);                        // no fraction
     EXPECT_EQ(stampOf("[0:05.000]"), -1.0);
     EXPECT_EQ(stampOf("[00:5.000]"), -1.0);
     EXPECT_EQ(stampOf("[00:05.]"), -1.0);
@@ -72,8 +73,10 @@ TEST(LrcReader, StampIsFoundAnywhereAndOnlyTheFirstCounts)
 TEST(LrcReader, AnyUnicodeDecimalDigitCountsAsInIcu)
 {
     // Arabic-Indic and full-width digits are decimal digits (Nd).
-    EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[\u0660\u0661:\u0660\u0662.\u0665\u0660\u0660]x")), 62.5);
-    EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[\uFF10\uFF10:\uFF11\uFF10.\uFF10\uFF10\uFF17]")), 10.007);
+    EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[\u0660\u0661:\u0660\u0662.\u0665\u0660\u0660]x")),
+                     62.5);
+    EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[\uFF10\uFF10:\uFF11\uFF10.\uFF10\uFF10\uFF17]")),
+                     10.007);
     // Mathematical bold digits lie outside the BMP; a fraction cut after three
     // UTF-16 units keeps one whole digit.
     EXPECT_DOUBLE_EQ(stampOf(QString::fromUtf8("[00:01.\U0001D7D1\U0001D7D2]")), 1.003);
@@ -84,23 +87,25 @@ TEST(LrcReader, AnyUnicodeDecimalDigitCountsAsInIcu)
     EXPECT_EQ(stampOf(QString::fromUtf8("[0\u00B2:00.000]")), -1.0);
     EXPECT_EQ(leadingIntegerValue(u"12x3"), 12);
     EXPECT_EQ(leadingIntegerValue(u""), 0);
-    EXPECT_EQ(leadingIntegerValue(u"99999999999999999999999999"), leadingIntegerValue(u"999999999999999999999999999"));
+    EXPECT_EQ(leadingIntegerValue(u"99999999999999999999999999"),
+              leadingIntegerValue(u"999999999999999999999999999"));
 }
 
 TEST(LrcReader, SplitsAtEveryNewlineCharacter)
 {
     const QString text = QString::fromUtf8("a\r\nb\rc\nd\u2028e\u2029f\u0085g\x0Bh\x0Ci");
-    EXPECT_EQ(splitLines(text),
-              (QStringList{"a", "", "b", "c", "d", "e", "f", "g", "h", "i"}));
+    EXPECT_EQ(splitLines(text), (QStringList{"a", "", "b", "c", "d", "e", "f", "g", "h", "i"}));
     EXPECT_EQ(splitLines(""), QStringList{""});
     EXPECT_EQ(splitLines("x\n"), (QStringList{"x", ""}));
 }
 
 TEST(LrcReader, TrimsSpacesAndTabsButNothingElse)
 {
-    EXPECT_EQ(trimSpacesAndTabs(QString::fromUtf8(" \t\u00A0\u3000text  here\u2003\t ")), "text  here");
+    EXPECT_EQ(trimSpacesAndTabs(QString::fromUtf8(" \t\u00A0\u3000text  here\u2003\t ")),
+              "text  here");
     // A zero-width space is a format character, not a space.
-    EXPECT_EQ(trimSpacesAndTabs(QString::fromUtf8("\u200Bx\u200B")), QString::fromUtf8("\u200Bx\u200B"));
+    EXPECT_EQ(trimSpacesAndTabs(QString::fromUtf8("\u200Bx\u200B")),
+              QString::fromUtf8("\u200Bx\u200B"));
     EXPECT_EQ(trimSpacesAndTabs(u" \t "), "");
 }
 
@@ -109,23 +114,24 @@ TEST(LrcReader, DecodingRefusesMalformedUtf8AndDropsTheByteOrderMark)
     EXPECT_EQ(decodeUtf8("\xEF\xBB\xBF[00:00.000]a"), "[00:00.000]a");
     EXPECT_EQ(decodeUtf8(QByteArray("a\0b", 3)), QStringView(u"a\0b", 3).toString());
     EXPECT_EQ(decodeUtf8(""), "");
-    EXPECT_FALSE(decodeUtf8("[00:00.000]caf\xE9"));       // Latin-1
-    EXPECT_FALSE(decodeUtf8("\xC0\xAF"));                 // overlong "/"
-    EXPECT_FALSE(decodeUtf8("\xED\xA0\x80"));             // an encoded surrogate
-    EXPECT_FALSE(decodeUtf8("ok\xE2\x82"));               // cut off at the end
-    EXPECT_FALSE(decodeUtf8("\xF4\x90\x80\x80"));         // beyond U+10FFFF
+    EXPECT_FALSE(decodeUtf8("[00:00.000]caf\xE9")); // Latin-1
+    EXPECT_FALSE(decodeUtf8("\xC0\xAF"));           // overlong "/"
+    EXPECT_FALSE(decodeUtf8("\xED\xA0\x80"));       // an encoded surrogate
+    EXPECT_FALSE(decodeUtf8("ok\xE2\x82"));         // cut off at the end
+    EXPECT_FALSE(decodeUtf8("\xF4\x90\x80\x80"));   // beyond U+10FFFF
 }
 
 TEST(LrcReader, ReadingSkipsHeadersEmptyLinesAndRepeatedStamps)
 {
     TestSupport::LogCapture log;
-    const StampedLines lines = readStampedLines(
-        "[ti:Title]\n[ar:Artist]\n[al:Album]\n[by:me]\n[offset:500]\n[re:tool]\n\n"
-        "[00:01.000] one \n[00:01.000]dropped\n[00:02.000]two\n[00:01.000]again\n"
-        "no stamp here\n[TI:upper case is not a header][00:03.000]three");
+    const StampedLines lines =
+        readStampedLines("[ti:Title]\n[ar:Artist]\n[al:Album]\n[by:me]\n[offset:500]\n[re:tool]\n\n"
+                         "[00:01.000] one \n[00:01.000]dropped\n[00:02.000]two\n[00:01.000]again\n"
+                         "no stamp here\n[TI:upper case is not a header][00:03.000]three");
     EXPECT_EQ(lines.stamps, (QList<double>{1.0, 2.0, 1.0, 3.0}));
     EXPECT_EQ(lines.texts, (QStringList{"one", "two", "again", "three"}));
-    EXPECT_TRUE(log.contains("loadTranscriptionsFromFile:1,timestamp=1.000000,line=[00:01.000] one "));
+    EXPECT_TRUE(
+        log.contains("loadTranscriptionsFromFile:1,timestamp=1.000000,line=[00:01.000] one "));
     EXPECT_TRUE(log.contains("loadTranscriptionsFromFile:4,timestamp=3.000000,"
                              "line=[TI:upper case is not a header][00:03.000]three"));
     EXPECT_EQ(log.lines().size(), 4);

@@ -11,7 +11,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -74,7 +73,8 @@ QList<QPair<double, double>> segments(const QJsonObject& o)
 {
     QList<QPair<double, double>> out;
     for (const QJsonValue& v : o.value("segments").toArray())
-        out.append({v.toObject().value("start").toDouble(), v.toObject().value("duration").toDouble()});
+        out.append(
+            {v.toObject().value("start").toDouble(), v.toObject().value("duration").toDouble()});
     return out;
 }
 
@@ -82,10 +82,11 @@ QList<QPair<double, double>> segments(const QJsonObject& o)
 
 TEST_F(TranscriptCommandsTest, ParseLrcPrintsTextsAndSegments)
 {
-    const QString path = file("quirks.lrc", "\xEF\xBB\xBF[ti:Lesson]\r\n[00:00.000]first\r\n"
-                                            "[00:01.5]  second\t\r[00:03.50]third\xE2\x80\xA8"
-                                            "junk [00:05.123456]fourth [00:06.000]x\n"
-                                            "[00:05]no fraction\n[00:07.000]dup\n[00:07.000]dropped");
+    const QString path =
+        file("quirks.lrc", "\xEF\xBB\xBF[ti:Lesson]\r\n[00:00.000]first\r\n"
+                           "[00:01.5]  second\t\r[00:03.50]third\xE2\x80\xA8"
+                           "junk [00:05.123456]fourth [00:06.000]x\n"
+                           "[00:05]no fraction\n[00:07.000]dup\n[00:07.000]dropped");
     const CliRun r = cli({"parse-lrc", path, "--duration", "10"});
     ASSERT_EQ(r.exitCode, 0) << r.err.constData();
     EXPECT_TRUE(r.err.isEmpty()) << r.err.constData(); // the store's log stays quiet
@@ -103,7 +104,8 @@ TEST_F(TranscriptCommandsTest, ParseLrcPrintsTextsAndSegments)
     EXPECT_EQ(segments(none), (QList<QPair<double, double>>{{0.0, 1.005}}));
 
     const CliRun verbose = cli({"parse-lrc", "--verbose", path});
-    EXPECT_TRUE(verbose.err.contains("loadTranscriptionsFromFile:1,timestamp=0.000000,line=[00:00.000]first"));
+    EXPECT_TRUE(verbose.err.contains(
+        "loadTranscriptionsFromFile:1,timestamp=0.000000,line=[00:00.000]first"));
     EXPECT_TRUE(verbose.err.contains(QString("loadTranscriptionsFromFile:非法的分段").toUtf8()));
 }
 
@@ -136,8 +138,8 @@ TEST_F(TranscriptCommandsTest, UsageErrors)
                                     QStringList{"parse-lrc", path, "--duration", "abc"},
                                     QStringList{"parse-lrc", path, "--duration", "-1"},
                                     QStringList{"parse-lrc", path, "--duration", "nan"},
-                                    QStringList{"parse-lrc", path, "--bogus"}, QStringList{"identity"},
-                                    QStringList{"identity", path, path}}) {
+                                    QStringList{"parse-lrc", path, "--bogus"},
+                                    QStringList{"identity"}, QStringList{"identity", path, path}}) {
         const CliRun r = cli(args);
         EXPECT_EQ(r.exitCode, 2) << qPrintable(args.join(' '));
         EXPECT_TRUE(r.err.startsWith("kelmora-cli: ")) << qPrintable(args.join(' '));
@@ -168,7 +170,8 @@ TEST_F(TranscriptCommandsTest, IdentityNamesTheTranscriptInTheStore)
     // A new modification time gives a new identity.
     QFile f(audio);
     ASSERT_TRUE(f.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(f.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-3600), QFileDevice::FileModificationTime));
+    ASSERT_TRUE(f.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-3600),
+                              QFileDevice::FileModificationTime));
     f.close();
     const CliRun touched = cli({"identity", audio});
     ASSERT_EQ(touched.exitCode, 0);

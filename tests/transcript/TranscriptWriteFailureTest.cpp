@@ -7,10 +7,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 #include <csignal>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 
 namespace {
@@ -18,7 +16,15 @@ namespace {
 const QByteArray previous = "[00:00.000]what was typed yesterday\n[00:02.500]and kept";
 
 // Child exit codes, so the parent can tell what went wrong.
-enum Outcome { Ok = 0, SaveSucceeded = 1, NoLogLine = 2, PreviousChanged = 3, LeftoverFile = 4, SetUpFailed = 5 };
+enum Outcome
+{
+    Ok = 0,
+    SaveSucceeded = 1,
+    NoLogLine = 2,
+    PreviousChanged = 3,
+    LeftoverFile = 4,
+    SetUpFailed = 5
+};
 
 bool write(const QString& path, const QByteArray& bytes)
 {
@@ -34,7 +40,8 @@ QByteArray read(const QString& path)
 
 QStringList entries(const QString& dir)
 {
-    return QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    return QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                               QDir::NoDotAndDotDot);
 }
 
 // A transcript much larger than the space the tests leave for it.
@@ -58,7 +65,8 @@ int saveAndCheck(const QString& target)
         return SaveSucceeded;
     bool logged = false;
     for (const QString& line : log.lines())
-        logged = logged || (line.startsWith("Error writing to file: " + target + ": ") && line.size() > 40);
+        logged = logged ||
+                 (line.startsWith("Error writing to file: " + target + ": ") && line.size() > 40);
     if (!logged)
         return NoLogLine;
     if (read(target) != previous)
@@ -105,7 +113,8 @@ TEST(TranscriptWriteFailure, FullDiskKeepsThePreviousFile)
         return saveAndCheck(target);
     });
     if (outcome == ChildProcess::Unsupported)
-        GTEST_SKIP() << "no private tmpfs can be mounted here; the file-size limit test covers this";
+        GTEST_SKIP()
+            << "no private tmpfs can be mounted here; the file-size limit test covers this";
     EXPECT_EQ(outcome, Ok);
 }
 

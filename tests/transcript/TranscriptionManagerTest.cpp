@@ -1,13 +1,13 @@
+#include "transcript/TranscriptionManager.h"
+
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "support/TestSupport.h"
 #include "transcript/LrcLine.h"
-#include "transcript/TranscriptionManager.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using TestSupport::LogCapture;
@@ -161,9 +161,10 @@ TEST_F(TranscriptionManagerTest, MissingOrUnreadableFilesChangeNothing)
         writeAll(path("latin1"), "[00:00.000]caf\xE9");
         EXPECT_FALSE(store.loadTranscriptionsFromFile(path("latin1")));
         ASSERT_EQ(log.lines().size(), 1);
-        EXPECT_EQ(log.lines()[0], QString::fromUtf8("Error reading file: The file \u201clatin1\u201d "
-                                                    "couldn\u2019t be opened using text encoding "
-                                                    "Unicode (UTF-8)."));
+        EXPECT_EQ(log.lines()[0],
+                  QString::fromUtf8("Error reading file: The file \u201clatin1\u201d "
+                                    "couldn\u2019t be opened using text encoding "
+                                    "Unicode (UTF-8)."));
     }
     {
         LogCapture log;
@@ -193,9 +194,10 @@ TEST_F(TranscriptionManagerTest, EmptyFileAndFileWithoutStampsGiveEmptyLists)
 TEST_F(TranscriptionManagerTest, ByteOrderMarkAndMixedLineEndings)
 {
     total = 30.0;
-    writeAll(path("mixed"), "\xEF\xBB\xBF[ti:After a BOM]\r\n[00:01.000]crlf\r\n[00:02.000]cr\r"
-                            "[00:03.000]ls\xE2\x80\xA8[00:04.000]ps\xE2\x80\xA9[00:05.000]nel\xC2\x85"
-                            "[00:06.000]lf\n\r\n\r\n[00:07.000]end");
+    writeAll(path("mixed"),
+             "\xEF\xBB\xBF[ti:After a BOM]\r\n[00:01.000]crlf\r\n[00:02.000]cr\r"
+             "[00:03.000]ls\xE2\x80\xA8[00:04.000]ps\xE2\x80\xA9[00:05.000]nel\xC2\x85"
+             "[00:06.000]lf\n\r\n\r\n[00:07.000]end");
     ASSERT_TRUE(store.loadTranscriptionsFromFile(path("mixed")));
     EXPECT_EQ(store.transcriptions(), (QStringList{"crlf", "cr", "ls", "ps", "nel", "lf", "end"}));
     EXPECT_EQ(store.segments()->size(), 7);
@@ -254,7 +256,8 @@ TEST_F(TranscriptionManagerTest, WithNoAudioOpenOnlyAStampAtZeroGetsASegment)
     ASSERT_TRUE(store.loadTranscriptionsFromFile(path("late")));
     EXPECT_EQ(store.transcriptions(), QStringList{"late"});
     EXPECT_TRUE(store.segments()->isEmpty());
-    EXPECT_EQ(log.lines().last(), "loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间");
+    EXPECT_EQ(log.lines().last(),
+              "loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间");
 }
 
 TEST_F(TranscriptionManagerTest, RepeatedStampsAndTheirSegments)
