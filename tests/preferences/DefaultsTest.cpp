@@ -1,7 +1,5 @@
 #include "preferences/Defaults.h"
 
-#include "preferences/DefaultPreferences.h"
-#include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
 
 #include <QFile>
@@ -87,17 +85,4 @@ TEST(Defaults, SynchronizeReportsAnUnwritableFile)
     Defaults unwritable(QStringLiteral("/proc/kelmora-cannot-write-here/settings.ini"));
     unwritable.setDouble(1.0, "x");
     EXPECT_FALSE(unwritable.synchronize());
-}
-
-TEST(DefaultPreferences, FreshUserReadsTheEngineDefaults)
-{
-    TempDefaults t;
-    regDefaultPreference(t.store());
-    Defaults& d = t.store();
-    using namespace PreferenceKeys;
-    EXPECT_EQ(d.doubleForKey(MinSegmentDuration), 1.0);
-    EXPECT_EQ(d.doubleForKey(PlaySpeed), 1.0);
-    EXPECT_EQ(d.integerForKey(MaxRepeatPlayTimes), 20);
-    EXPECT_EQ(d.integerForKey(Sensitivity), 1);
-    EXPECT_FALSE(d.objectForKey(MinGapDuration).isValid());
 }

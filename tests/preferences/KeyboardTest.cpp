@@ -3,38 +3,21 @@
 #include "preferences/KeyboardShortcut.h"
 
 #include <QKeyEvent>
-#include <QSet>
 #include <gtest/gtest.h>
-#include <map>
+#include <utility>
 
-TEST(Keyboard, KeyNamesCoverTheWholeTableAndFallBackToKeyN)
+TEST(Keyboard, KeyNamesOfLettersSymbolsAndSpecialKeysWithAKeyNFallBack)
 {
-    const std::map<qint64, QString> names = {
-        {0, "A"},       {1, "S"},     {2, "D"},     {3, "F"},           {4, "H"},
-        {5, "G"},       {6, "Z"},     {7, "X"},     {8, "C"},           {9, "V"},
-        {11, "B"},      {12, "Q"},    {13, "W"},    {14, "E"},          {15, "R"},
-        {16, "Y"},      {17, "T"},    {18, "1"},    {19, "2"},          {20, "3"},
-        {21, "4"},      {22, "6"},    {23, "5"},    {24, "="},          {25, "9"},
-        {26, "7"},      {27, "-"},    {28, "8"},    {29, "0"},          {30, "]"},
-        {31, "O"},      {32, "U"},    {33, "["},    {34, "I"},          {35, "P"},
-        {36, "Return"}, {37, "L"},    {38, "J"},    {39, "'"},          {40, "K"},
-        {41, ";"},      {42, "\\"},   {43, ","},    {44, "/"},          {45, "N"},
-        {46, "M"},      {47, "."},    {48, "Tab"},  {49, "Space"},      {50, "`"},
-        {51, "Delete"}, {53, "Esc"},  {64, "F17"},  {72, "VolumeUp"},   {73, "VolumeDown"},
-        {74, "Mute"},   {79, "F18"},  {80, "F19"},  {90, "20"},         {96, "F5"},
-        {97, "F6"},     {98, "F7"},   {99, "F3"},   {100, "F8"},        {101, "F9"},
-        {103, "F11"},   {109, "F10"}, {111, "F12"}, {115, "Home"},      {116, "Page Up"},
-        {118, "F4"},    {119, "End"}, {120, "F2"},  {121, "Page Down"}, {122, "F1"},
-        {123, "←"},     {124, "→"},   {125, "↓"},   {126, "↑"},
+    const std::pair<qint64, const char*> names[] = {
+        {0, "A"},         {15, "R"},     {29, "0"},   {42, "\\"},       {44, "/"},
+        {36, "Return"},   {49, "Space"}, {53, "Esc"}, {72, "VolumeUp"}, {90, "20"},
+        {116, "Page Up"}, {120, "F2"},   {122, "F1"}, {123, "←"},       {126, "↑"},
     };
-    for (qint64 code = -2; code < 300; ++code) {
-        const auto it = names.find(code);
-        const QString expected =
-            it != names.end() ? it->second : QStringLiteral("Key %1").arg(code);
-        EXPECT_EQ(Keyboard::keyCodeToString(code), expected) << code;
-    }
-    EXPECT_EQ(Keyboard::keyCodeToString(105), "Key 105");
-    EXPECT_EQ(Keyboard::keyCodeToString(200), "Key 200");
+    for (const auto& [code, name] : names)
+        EXPECT_EQ(Keyboard::keyCodeToString(code), name) << code;
+    // Codes the table leaves out, inside and beyond its range, and negative ones.
+    for (qint64 code : {10, 52, 105, 127, 200, -1})
+        EXPECT_EQ(Keyboard::keyCodeToString(code), QStringLiteral("Key %1").arg(code)) << code;
 }
 
 TEST(Keyboard, ModifierDisplayShowsOneSymbolByPrecedence)
@@ -52,11 +35,12 @@ TEST(Keyboard, ModifierDisplayShowsOneSymbolByPrecedence)
     EXPECT_EQ(Keyboard::modifierFlagsToString(NumericPad | 0x10000), "");
 }
 
-TEST(Keyboard, OnlyTheEightModifierKeysAreModifierKeys)
+TEST(Keyboard, OnlyModifierKeysAreModifierKeys)
 {
-    const QSet<qint64> modifiers = {54, 55, 56, 58, 59, 60, 61, 62};
-    for (qint64 code = -1; code < 200; ++code)
-        EXPECT_EQ(Keyboard::isModifierKey(code), modifiers.contains(code)) << code;
+    for (qint64 code : {54, 55, 56, 58, 59, 60, 61, 62})
+        EXPECT_TRUE(Keyboard::isModifierKey(code)) << code;
+    for (qint64 code : {0, 36, 53, 57, 63, 126, -1})
+        EXPECT_FALSE(Keyboard::isModifierKey(code)) << code;
 }
 
 TEST(KeyboardShortcut, DisplayStringIsModifierThenKeyAndEmptyForKeyCodeZero)
