@@ -31,4 +31,19 @@ inline constexpr const char* AutoUpdateWavePosDidUpdate = "AutoUpdateWavePosDidU
 // AudioManager::closeAudioFile, after AudioPlayStop. Object: the engine; no userInfo.
 inline constexpr const char* AudioFileDidClose = "AudioFileDidClose";
 
+
+// A click on the waveform strip selected a segment (WaveformView). Object: the
+// segment index (qint64); no userInfo.
+inline constexpr const char* MouseDownSelectSegment = "MouseDownSelectSegment";
+
+// The look and layout of the window, posted by the preferences panel (and the
+// table background once by the session controller at launch). Object: the new
+// value (QColor, QFont or bool); no userInfo. Objects of another type are ignored.
+inline constexpr const char* TableBackgroundColorDidChange = "TableBackgroundColorDidChange";
+inline constexpr const char* DictationTextColorDidChange = "DictationTextColorDidChange";
+inline constexpr const char* DictationTextFontDidChange = "DictationTextFontDidChange";
+inline constexpr const char* ShowLineNumbersDidChange = "ShowLineNumbersDidChange";
+inline constexpr const char* ShowAudioWaveDidChange = "ShowAudioWaveDidChange";
+inline constexpr const char* ShowStatusBarDidChange = "ShowStatusBarDidChange";
+
 } // namespace Notifications
