@@ -119,6 +119,39 @@ inline constexpr const char* NoReleaseNotes =
     QT_TRANSLATE_NOOP("Localizable", "No release notes available");
 inline constexpr const char* Update = QT_TRANSLATE_NOOP("Localizable", "Update");
 
+// The window: menus, toolbar, tooltips, the analysis indicator
+inline constexpr const char* AudioFiles = QT_TRANSLATE_NOOP("Localizable", "Audio Files");
+inline constexpr const char* AnalysingAudio = QT_TRANSLATE_NOOP("Localizable", "Analysing audio");
+inline constexpr const char* Waveform = QT_TRANSLATE_NOOP("Localizable", "Waveform");
+inline constexpr const char* MenuFile = QT_TRANSLATE_NOOP("Localizable", "File");
+inline constexpr const char* MenuOpen = QT_TRANSLATE_NOOP("Localizable", "Open…");
+inline constexpr const char* MenuOpenRecent = QT_TRANSLATE_NOOP("Localizable", "Open Recent");
+inline constexpr const char* MenuClearRecent = QT_TRANSLATE_NOOP("Localizable", "Clear Menu");
+inline constexpr const char* MenuExport = QT_TRANSLATE_NOOP("Localizable", "Export Dictation…");
+inline constexpr const char* MenuQuit = QT_TRANSLATE_NOOP("Localizable", "Quit Kelmora");
+inline constexpr const char* MenuView = QT_TRANSLATE_NOOP("Localizable", "View");
+inline constexpr const char* MenuWindowSize = QT_TRANSLATE_NOOP("Localizable", "Window Size");
+inline constexpr const char* MenuPreferences = QT_TRANSLATE_NOOP("Localizable", "Preferences…");
+inline constexpr const char* MenuCheckForUpdates = QT_TRANSLATE_NOOP("Localizable", "Check for Updates…");
+inline constexpr const char* MenuKelmoraHelp = QT_TRANSLATE_NOOP("Localizable", "Kelmora Help");
+inline constexpr const char* ToolbarOpen = QT_TRANSLATE_NOOP("Localizable", "Open");
+inline constexpr const char* ToolbarPlayPause = QT_TRANSLATE_NOOP("Localizable", "Play/Pause");
+inline constexpr const char* ToolbarExport = QT_TRANSLATE_NOOP("Localizable", "Export");
+inline constexpr const char* ToolbarSettings = QT_TRANSLATE_NOOP("Localizable", "Settings");
+inline constexpr const char* ToolbarImport = QT_TRANSLATE_NOOP("Localizable", "Import");
+inline constexpr const char* ToolbarClear = QT_TRANSLATE_NOOP("Localizable", "Clear");
+inline constexpr const char* ToolbarMusic = QT_TRANSLATE_NOOP("Localizable", "Music");
+inline constexpr const char* TipOpen = QT_TRANSLATE_NOOP("Localizable", "Open an audio file");
+inline constexpr const char* TipPlayPause = QT_TRANSLATE_NOOP("Localizable", "Play or pause the current segment");
+inline constexpr const char* TipRepeat = QT_TRANSLATE_NOOP("Localizable", "Repeat each segment, or play on to the next");
+inline constexpr const char* TipExport = QT_TRANSLATE_NOOP("Localizable", "Export the dictation as an LRC file");
+inline constexpr const char* TipSettings = QT_TRANSLATE_NOOP("Localizable", "Open the preferences");
+inline constexpr const char* TipImport = QT_TRANSLATE_NOOP("Localizable", "Import a dictation from an LRC file");
+inline constexpr const char* TipClear = QT_TRANSLATE_NOOP("Localizable", "Clear the dictation");
+inline constexpr const char* TipMusic = QT_TRANSLATE_NOOP("Localizable", "Open a file from your music folder");
+inline constexpr const char* Toolbar = QT_TRANSLATE_NOOP("Localizable", "Toolbar");
+inline constexpr const char* StatusBar = QT_TRANSLATE_NOOP("Localizable", "Status bar");
+
 // All of the above, for the completeness check of the translations.
 inline constexpr std::array All = {AppName,
                                    NoAudioFileOpened,
@@ -184,6 +217,37 @@ inline constexpr std::array All = {AppName,
                                    UpdateAvailable,
                                    UpdateAvailableMessage,
                                    NoReleaseNotes,
-                                   Update};
+                                   Update,
+                                   AudioFiles,
+                                   AnalysingAudio,
+                                   Waveform,
+                                   MenuFile,
+                                   MenuOpen,
+                                   MenuOpenRecent,
+                                   MenuClearRecent,
+                                   MenuExport,
+                                   MenuQuit,
+                                   MenuView,
+                                   MenuWindowSize,
+                                   MenuPreferences,
+                                   MenuCheckForUpdates,
+                                   MenuKelmoraHelp,
+                                   ToolbarOpen,
+                                   ToolbarPlayPause,
+                                   ToolbarExport,
+                                   ToolbarSettings,
+                                   ToolbarImport,
+                                   ToolbarClear,
+                                   ToolbarMusic,
+                                   TipOpen,
+                                   TipPlayPause,
+                                   TipRepeat,
+                                   TipExport,
+                                   TipSettings,
+                                   TipImport,
+                                   TipClear,
+                                   TipMusic,
+                                   Toolbar,
+                                   StatusBar};
 
 } // namespace Texts

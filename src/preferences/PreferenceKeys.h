@@ -38,6 +38,11 @@ inline constexpr const char* MinGapDuration = "kminGapDuration";         // doub
 
 } // namespace PreferenceKeys
 
+// The Open Recent menu: paths, newest first, at most ten. Not registered.
+namespace PreferenceKeys {
+inline constexpr const char* RecentDocuments = "RecentDocuments"; // list of strings
+} // namespace PreferenceKeys
+
 // The folder bookmark store of the open road; no defaults are registered.
 namespace PreferenceKeys {
 inline constexpr const char* LastDirectoryBookmark = "LastDirectoryBookmark"; // base64 text

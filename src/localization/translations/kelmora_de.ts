@@ -287,5 +287,129 @@ Versionshinweise:
         <source>Update</source>
         <translation>Aktualisieren</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Audiodateien</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>Audio wird analysiert</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>Diktat exportieren…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Kelmora beenden</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>Fenstergröße</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Einstellungen…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Updates suchen…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Kelmora-Hilfe</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Wiedergabe/Pause</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>Audiodatei öffnen</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>Aktuellen Abschnitt abspielen oder pausieren</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>Jeden Abschnitt wiederholen oder mit dem nächsten fortfahren</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>Diktat als LRC-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>Diktat aus einer LRC-Datei importieren</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>Diktat löschen</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>Datei aus Ihrem Musikordner öffnen</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Statusleiste</translation>
+    </message>
 </context>
 </TS>

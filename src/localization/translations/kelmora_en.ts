@@ -287,5 +287,129 @@ Release Notes:
         <source>Update</source>
         <translation>Update</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Audio Files</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>Analysing audio</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Waveform</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Open…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Open Recent</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Clear Menu</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>Export Dictation…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Quit Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>Window Size</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Kelmora Help</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Play/Pause</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>Open an audio file</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>Play or pause the current segment</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>Repeat each segment, or play on to the next</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>Export the dictation as an LRC file</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Open the preferences</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>Import a dictation from an LRC file</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>Clear the dictation</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>Open a file from your music folder</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Toolbar</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Status bar</translation>
+    </message>
 </context>
 </TS>

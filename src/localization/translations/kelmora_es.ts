@@ -287,5 +287,129 @@ Notas de la versión:
         <source>Update</source>
         <translation>Actualizar</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Archivos de audio</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>Analizando el audio</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Forma de onda</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Abrir…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Abrir reciente</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Borrar menú</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>Exportar dictado…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Salir de Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>Tamaño de la ventana</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferencias…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Buscar actualizaciones…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Ayuda de Kelmora</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Reproducir/Pausa</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>Abrir un archivo de audio</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>Reproducir o pausar el segmento actual</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>Repetir cada segmento o continuar con el siguiente</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>Exportar el dictado como archivo LRC</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Abrir las preferencias</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>Importar un dictado desde un archivo LRC</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>Borrar el dictado</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>Abrir un archivo de tu carpeta de música</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Barra de estado</translation>
+    </message>
 </context>
 </TS>

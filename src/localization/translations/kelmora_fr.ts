@@ -287,5 +287,129 @@ Notes de version :
         <source>Update</source>
         <translation>Mettre à jour</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Fichiers audio</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>Analyse de l'audio en cours</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Forme d'onde</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Ouvrir un fichier récent</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Effacer le menu</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>Exporter la dictée…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Quitter Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>Taille de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Rechercher des mises à jour…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Aide de Kelmora</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musique</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>Ouvrir un fichier audio</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>Lire ou mettre en pause le segment actuel</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>Répéter chaque segment ou enchaîner avec le suivant</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>Exporter la dictée sous forme de fichier LRC</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Ouvrir les préférences</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>Importer une dictée depuis un fichier LRC</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>Effacer la dictée</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>Ouvrir un fichier de votre dossier Musique</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barre d'outils</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Barre d'état</translation>
+    </message>
 </context>
 </TS>

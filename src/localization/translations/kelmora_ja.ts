@@ -287,5 +287,129 @@ Release Notes:
         <source>Update</source>
         <translation>アップデート</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>オーディオファイル</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>オーディオを解析中</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開く…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>最近使った項目を開く</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>メニューを消去</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>ディクテーションをエクスポート…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Kelmora を終了</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>ウィンドウサイズ</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>環境設定…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>アップデートを確認…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Kelmora ヘルプ</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音楽</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>オーディオファイルを開く</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>現在のセグメントを再生または一時停止</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>各セグメントをリピート、または次のセグメントへ連続再生</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>ディクテーションを LRC ファイルとしてエクスポート</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>環境設定を開く</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>LRC ファイルからディクテーションをインポート</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>ディクテーションを消去</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>音楽フォルダからファイルを開く</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>ステータスバー</translation>
+    </message>
 </context>
 </TS>

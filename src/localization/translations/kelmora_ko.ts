@@ -287,5 +287,129 @@ Release Notes:
         <source>Update</source>
         <translation>업데이트</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>오디오 파일</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>오디오 분석 중</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>파형</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>열기…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>최근 항목 열기</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>메뉴 지우기</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>받아쓰기 내보내기…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Kelmora 종료</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>보기</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>창 크기</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>환경설정…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>업데이트 확인…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Kelmora 도움말</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>재생/일시정지</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>음악</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>오디오 파일 열기</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>현재 구간 재생 또는 일시정지</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>각 구간을 반복하거나 다음 구간으로 계속 재생</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>받아쓰기를 LRC 파일로 내보내기</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>환경설정 열기</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>LRC 파일에서 받아쓰기 가져오기</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>받아쓰기 지우기</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>음악 폴더에서 파일 열기</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>도구 막대</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>상태 표시줄</translation>
+    </message>
 </context>
 </TS>

@@ -287,5 +287,129 @@ Release Notes:
         <source>Update</source>
         <translation>Обновить</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Аудиофайлы</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>Анализ аудио</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Форма волны</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Открыть недавние</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Очистить список</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>Экспортировать диктант…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Выйти из Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>Размер окна</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Настройки…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Проверить обновления…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Справка Kelmora</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Воспроизведение/пауза</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>Открыть аудиофайл</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>Воспроизвести или приостановить текущий сегмент</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>Повторять каждый сегмент или переходить к следующему</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>Экспортировать диктант в файл LRC</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Открыть настройки</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>Импортировать диктант из файла LRC</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>Очистить диктант</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>Открыть файл из папки «Музыка»</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Строка состояния</translation>
+    </message>
 </context>
 </TS>

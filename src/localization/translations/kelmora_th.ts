@@ -287,5 +287,129 @@ Release Notes:
         <source>Update</source>
         <translation>อัปเดต</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>ไฟล์เสียง</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>กำลังวิเคราะห์เสียง</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>รูปคลื่นเสียง</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ไฟล์</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>เปิด…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>เปิดรายการล่าสุด</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>ล้างเมนู</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>ส่งออกการเขียนตามคำบอก…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>ออกจาก Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>มุมมอง</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>ขนาดหน้าต่าง</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>การตั้งค่า…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>ตรวจหาอัปเดต…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>วิธีใช้ Kelmora</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>เปิด</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>เล่น/หยุดชั่วคราว</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>ส่งออก</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>การตั้งค่า</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>นำเข้า</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>ล้าง</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>เพลง</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>เปิดไฟล์เสียง</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>เล่นหรือหยุดช่วงปัจจุบันชั่วคราว</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>เล่นซ้ำแต่ละช่วง หรือเล่นต่อไปยังช่วงถัดไป</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>ส่งออกการเขียนตามคำบอกเป็นไฟล์ LRC</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>เปิดการตั้งค่า</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>นำเข้าการเขียนตามคำบอกจากไฟล์ LRC</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>ล้างการเขียนตามคำบอก</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>เปิดไฟล์จากโฟลเดอร์เพลงของคุณ</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>แถบเครื่องมือ</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>แถบสถานะ</translation>
+    </message>
 </context>
 </TS>

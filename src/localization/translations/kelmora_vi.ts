@@ -287,5 +287,129 @@ Ghi chú phát hành:
         <source>Update</source>
         <translation>Cập nhật</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Tệp âm thanh</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>Đang phân tích âm thanh</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Dạng sóng</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Tệp</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Mở…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Mở gần đây</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Xóa menu</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>Xuất bài chính tả…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>Thoát Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Xem</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>Kích thước cửa sổ</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Tùy chọn…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Kiểm tra bản cập nhật…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Trợ giúp Kelmora</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Mở</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Phát/Tạm dừng</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Xuất</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Cài đặt</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Nhập</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Xóa</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Nhạc</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>Mở một tệp âm thanh</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>Phát hoặc tạm dừng đoạn hiện tại</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>Lặp lại từng đoạn hoặc phát tiếp sang đoạn sau</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>Xuất bài chính tả dưới dạng tệp LRC</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Mở phần tùy chọn</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>Nhập bài chính tả từ tệp LRC</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>Xóa bài chính tả</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>Mở một tệp từ thư mục nhạc của bạn</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Thanh công cụ</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Thanh trạng thái</translation>
+    </message>
 </context>
 </TS>

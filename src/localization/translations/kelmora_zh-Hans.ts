@@ -287,5 +287,129 @@ Release Notes:
         <source>Update</source>
         <translation>更新</translation>
     </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>音频文件</translation>
+    </message>
+    <message>
+        <source>Analysing audio</source>
+        <translation>正在分析音频</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>打开最近使用</translation>
+    </message>
+    <message>
+        <source>Clear Menu</source>
+        <translation>清除菜单</translation>
+    </message>
+    <message>
+        <source>Export Dictation…</source>
+        <translation>导出听写…</translation>
+    </message>
+    <message>
+        <source>Quit Kelmora</source>
+        <translation>退出 Kelmora</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Window Size</source>
+        <translation>窗口大小</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>偏好设置…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>检查更新…</translation>
+    </message>
+    <message>
+        <source>Kelmora Help</source>
+        <translation>Kelmora 帮助</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暂停</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音乐</translation>
+    </message>
+    <message>
+        <source>Open an audio file</source>
+        <translation>打开音频文件</translation>
+    </message>
+    <message>
+        <source>Play or pause the current segment</source>
+        <translation>播放或暂停当前分段</translation>
+    </message>
+    <message>
+        <source>Repeat each segment, or play on to the next</source>
+        <translation>逐段重复播放，或继续播放下一段</translation>
+    </message>
+    <message>
+        <source>Export the dictation as an LRC file</source>
+        <translation>将听写导出为 LRC 文件</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>打开偏好设置</translation>
+    </message>
+    <message>
+        <source>Import a dictation from an LRC file</source>
+        <translation>从 LRC 文件导入听写</translation>
+    </message>
+    <message>
+        <source>Clear the dictation</source>
+        <translation>清空听写内容</translation>
+    </message>
+    <message>
+        <source>Open a file from your music folder</source>
+        <translation>从音乐文件夹打开文件</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>状态栏</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,147 @@
+// Opening an hour-long lesson in the window: does the window keep answering
+// while the file is analysed, how soon is the first segment played, and how
+// much memory does the open window hold?
+//
+// Targets: the event loop never stalls more than 50 ms during the analysis
+// (the longest gap between 10 ms timer ticks); the first segment plays no
+// later than `kelmora-cli analyze` takes + 150 ms; resident memory with the
+// file open <= 160 MB.
+// Usage: window_open_bench [RUNS] (default 3)
+
+#include "BenchSupport.h"
+#include "app/MainWindowController.h"
+#include "app/SessionServices.h"
+#include "app/ViewController.h"
+#include "audio/AudioManager.h"
+#include "audio/NullAudioOutput.h"
+#include "common/NotificationCenter.h"
+#include "preferences/DefaultPreferences.h"
+#include "preferences/Defaults.h"
+#include "transcript/DocumentManager.h"
+#include "transcript/TranscriptionManager.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+double residentMB()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0.0;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).trimmed().split(' ').value(0).toDouble() / 1024.0;
+    }
+    return 0.0;
+}
+
+struct Opening
+{
+    double firstPlaySeconds = 0;
+    double longestStallMs = 0;
+    double residentMB = 0;
+    qsizetype segments = 0;
+};
+
+Opening openOnce(const QString& file)
+{
+    QTemporaryDir dir;
+    Defaults defaults(dir.filePath(QStringLiteral("settings.ini")));
+    regDefaultPreference(defaults);
+    NotificationCenter center;
+    DocumentManager documents(dir.path());
+    AudioManager engine(defaults, center);
+    engine.setOutputFactory(
+        [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
+    TranscriptionManager transcriptions([&engine] { return engine.getTotalDuration(); });
+    MainWindowController window(SessionServices{engine, center, defaults, transcriptions, documents});
+    window.resize(1280, 800);
+    window.show();
+    QApplication::processEvents();
+
+    Opening result;
+    QElapsedTimer clock;
+    qint64 lastTick = 0;
+    QTimer ticker;
+    ticker.setTimerType(Qt::PreciseTimer);
+    ticker.setInterval(10);
+    QObject::connect(&ticker, &QTimer::timeout, [&] {
+        const qint64 now = clock.nsecsElapsed();
+        result.longestStallMs = std::max(result.longestStallMs, (now - lastTick) / 1e6);
+        lastTick = now;
+    });
+    bool finished = false;
+    window.viewController()->setOpeningFinishedHandler([&](bool) {
+        result.firstPlaySeconds = clock.nsecsElapsed() / 1e9;
+        finished = true;
+    });
+    clock.start();
+    ticker.start();
+    window.viewController()->openFileFromPath(file);
+    while (!finished)
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    ticker.stop();
+    // Let the first segment's playback and the table settle before measuring memory.
+    QElapsedTimer settle;
+    settle.start();
+    while (settle.elapsed() < 500)
+        QApplication::processEvents(QEventLoop::AllEvents, 50);
+    result.residentMB = residentMB();
+    result.segments = engine.numberOfSegments();
+    window.viewController()->setOpeningFinishedHandler({});
+    engine.stopPlayback();
+    engine.closeAudioFile();
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
+        if (type != QtInfoMsg && type != QtDebugMsg)
+            std::fprintf(stderr, "%s\n", qPrintable(message));
+    });
+    const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 3;
+    std::printf("Preparing a 60-minute 128 kbps speech MP3...\n");
+    std::fflush(stdout);
+    const std::string file = Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, "speech-60min.mp3",
+                                                   "-c:a libmp3lame -b:a 128k");
+
+    std::vector<double> cliTimes, firstPlay, stalls;
+    double peakMB = 0;
+    for (int i = 0; i < runs; ++i) {
+        const Bench::ProcessRun analyse = Bench::runProcess({KELMORA_CLI_PATH, "analyze", file});
+        const Opening opening = openOnce(QString::fromStdString(file));
+        cliTimes.push_back(analyse.seconds);
+        firstPlay.push_back(opening.firstPlaySeconds);
+        stalls.push_back(opening.longestStallMs);
+        peakMB = std::max(peakMB, opening.residentMB);
+        std::printf("run %d: kelmora-cli analyze %.3f s; window: first segment playing after "
+                    "%.3f s, longest stall %.1f ms, resident %.1f MB, %lld segments\n",
+                    i + 1, analyse.seconds, opening.firstPlaySeconds, opening.longestStallMs,
+                    opening.residentMB, static_cast<long long>(opening.segments));
+        std::fflush(stdout);
+    }
+    const double cli = Bench::median(cliTimes);
+    const double play = Bench::median(firstPlay);
+    const double stall = *std::max_element(stalls.begin(), stalls.end());
+    std::printf("\nmedian of %d: kelmora-cli analyze %.3f s, window first play %.3f s "
+                "(target <= %.3f s) %s\n",
+                runs, cli, play, cli + 0.150, play <= cli + 0.150 ? "ok" : "MISSED");
+    std::printf("longest event-loop stall %.1f ms (target <= 50 ms) %s\n", stall,
+                stall <= 50.0 ? "ok" : "MISSED");
+    std::printf("resident memory with the file open %.1f MB (target <= 160 MB) %s\n", peakMB,
+                peakMB <= 160.0 ? "ok" : "MISSED");
+    return 0;
+}

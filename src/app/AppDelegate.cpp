@@ -1,0 +1,94 @@
+#include "app/AppDelegate.h"
+
+#include "app/Dialogs.h"
+#include "app/MainWindowController.h"
+#include "app/ViewController.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+#include "transcript/DocumentManager.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QUrl>
+
+AppDelegate::AppDelegate(const SessionServices& services, QObject* parent)
+    : QObject(parent), m_services(services)
+{
+}
+
+AppDelegate::~AppDelegate()
+{
+    delete m_mainWindowController;
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    m_mainWindowController = new MainWindowController(m_services);
+    m_mainWindowController->setAttribute(Qt::WA_DeleteOnClose, false);
+    Dialogs::setMainWindow(m_mainWindowController);
+    MainWindowController* window = m_mainWindowController;
+    connect(window, &MainWindowController::helpRequested, this, &AppDelegate::showHelp);
+    connect(window, &MainWindowController::sizePresetRequested, this, &AppDelegate::changeSize);
+    window->show();
+    continueStartup();
+}
+
+bool AppDelegate::applicationOpenFile(const QString& path)
+{
+    const QString local = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toLocalFile();
+    if (m_mainWindowController)
+        m_mainWindowController->viewController()->openFileFromPath(local);
+    return true;
+}
+
+void AppDelegate::continueStartup()
+{
+    setupApplicationDirectories();
+}
+
+void AppDelegate::setupApplicationDirectories()
+{
+    // A store that cannot be made now is reported when a save needs it.
+    m_services.documents.createDirectory(DocumentManager::TranscriptionsFolder);
+}
+
+void AppDelegate::changeSize(int width, int height)
+{
+    if (m_mainWindowController)
+        m_mainWindowController->viewController()->resizeWindowToWidth(width, height);
+}
+
+QString AppDelegate::localizedHelpText()
+{
+    return LocalizedString(Texts::HelpText);
+}
+
+QString AppDelegate::helpPagePath()
+{
+    // Installed beside the program in a build tree, under the data folders
+    // once installed.
+    const QString appDir = QCoreApplication::applicationDirPath();
+    QStringList candidates{appDir + QStringLiteral("/help.html"),
+                           appDir + QStringLiteral("/../share/kelmora/help.html")};
+    for (const QString& dir :
+         QStandardPaths::standardLocations(QStandardPaths::AppDataLocation))
+        candidates << dir + QStringLiteral("/help.html");
+    for (const QString& candidate : candidates) {
+        if (QFileInfo(candidate).isFile())
+            return QFileInfo(candidate).canonicalFilePath();
+    }
+    return QString();
+}
+
+void AppDelegate::showHelp()
+{
+    qInfo("Resource path: %s", qUtf8Printable(QCoreApplication::applicationDirPath()));
+    const QString page = helpPagePath();
+    if (!page.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(page)))
+        return;
+    Dialogs::showModalAlert(LocalizedString(Texts::Help), localizedHelpText(),
+                            LocalizedString(Texts::OK));
+}

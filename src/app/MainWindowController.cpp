@@ -1,0 +1,218 @@
+#include "app/MainWindowController.h"
+
+#include "app/Dialogs.h"
+#include "app/IconManager.h"
+#include "app/RecentDocuments.h"
+#include "app/ViewController.h"
+#include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "common/NotificationNames.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolBar>
+
+MainWindowController::MainWindowController(const SessionServices& services, QWidget* parent)
+    : QMainWindow(parent), m_engine(services.engine), m_center(services.center),
+      m_defaults(services.defaults), m_viewController(new ViewController(services, this))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(LocalizedString(Texts::AppName));
+    setWindowIcon(IconManager::shared().iconForName(QStringLiteral("kelmora")));
+    setCentralWidget(m_viewController);
+    setupToolbar();
+    setupMenus();
+    for (const char* name : {Notifications::AudioPlayStop, Notifications::AudioPlaying,
+                             Notifications::AudioPlaybackDidPause,
+                             Notifications::AudioPlaybackDidResume}) {
+        m_center.addObserver(name, this, [this](const NotificationCenter::Notification&) {
+            playStatusDidChange();
+        });
+    }
+    resize(1280, 800);
+}
+
+MainWindowController::~MainWindowController()
+{
+    m_center.removeObserver(this);
+}
+
+void MainWindowController::setupToolbar()
+{
+    QToolBar* toolbar = addToolBar(LocalizedString(Texts::Toolbar));
+    toolbar->setObjectName(QStringLiteral("mainToolbar"));
+    toolbar->setMovable(false);
+    toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    toolbar->setIconSize(QSize(24, 24));
+    IconManager& icons = IconManager::shared();
+
+    auto add = [&](const char* identifier, const char* icon, const char* label, const char* tip) {
+        QAction* action = toolbar->addAction(icons.iconForName(QLatin1String(icon)),
+                                             LocalizedString(label));
+        action->setObjectName(QLatin1String(identifier));
+        action->setToolTip(LocalizedString(tip));
+        action->setStatusTip(LocalizedString(tip));
+        return action;
+    };
+    m_openButton = add("open", "open", Texts::ToolbarOpen, Texts::TipOpen);
+    connect(m_openButton, &QAction::triggered, this, [this] { m_viewController->openFile(); });
+
+    m_playPauseButton = add("playPause", "play", Texts::ToolbarPlayPause, Texts::TipPlayPause);
+    connect(m_playPauseButton, &QAction::triggered, this,
+            [this] { m_viewController->togglePlayPause(); });
+
+    m_repeatButton = add("repeatMode", m_engine.isRepeatMode() ? "repeat.1" : "forward",
+                         Texts::Repeat, Texts::TipRepeat);
+    connect(m_repeatButton, &QAction::triggered, this, &MainWindowController::toolbarItemRepeat);
+
+    QAction* exportButton = add("export", "export", Texts::ToolbarExport, Texts::TipExport);
+    connect(exportButton, &QAction::triggered, this,
+            [this] { m_viewController->saveTranscription(); });
+    QAction* settings = add("settings", "settings", Texts::ToolbarSettings, Texts::TipSettings);
+    connect(settings, &QAction::triggered, this, &MainWindowController::preferencesRequested);
+    settings->setEnabled(false); // the preferences window is not built yet
+    QAction* import = add("import", "import", Texts::ToolbarImport, Texts::TipImport);
+    connect(import, &QAction::triggered, this, &MainWindowController::importRequested);
+    import->setEnabled(false); // importing a transcript comes with the session's persistence
+    QAction* clear = add("clear", "clear", Texts::ToolbarClear, Texts::TipClear);
+    connect(clear, &QAction::triggered, this, &MainWindowController::clearRequested);
+    clear->setEnabled(false); // clearing comes with the session's persistence
+    QAction* music = add("importFromMusicLibrary", "music", Texts::ToolbarMusic, Texts::TipMusic);
+    connect(music, &QAction::triggered, this,
+            &MainWindowController::importFromMusicLibraryRequested);
+    music->setEnabled(false); // the music-folder road is not built yet
+}
+
+void MainWindowController::setupMenus()
+{
+    QMenu* file = menuBar()->addMenu(LocalizedString(Texts::MenuFile));
+    QAction* open = file->addAction(LocalizedString(Texts::MenuOpen));
+    open->setObjectName(QStringLiteral("menuOpen"));
+    open->setShortcut(QKeySequence::Open);
+    connect(open, &QAction::triggered, this, [this] { m_viewController->openFile(); });
+    m_recentMenu = file->addMenu(LocalizedString(Texts::MenuOpenRecent));
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindowController::rebuildRecentMenu);
+    rebuildRecentMenu();
+    QAction* save = file->addAction(LocalizedString(Texts::MenuExport));
+    save->setObjectName(QStringLiteral("menuExport"));
+    save->setShortcut(QKeySequence::Save);
+    connect(save, &QAction::triggered, this, [this] { m_viewController->saveTranscription(); });
+    file->addSeparator();
+    QAction* preferences = file->addAction(LocalizedString(Texts::MenuPreferences));
+    preferences->setMenuRole(QAction::PreferencesRole);
+    connect(preferences, &QAction::triggered, this, &MainWindowController::preferencesRequested);
+    preferences->setEnabled(false);
+    file->addSeparator();
+    QAction* quit = file->addAction(LocalizedString(Texts::MenuQuit));
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    QMenu* view = menuBar()->addMenu(LocalizedString(Texts::MenuView));
+    QMenu* sizes = view->addMenu(LocalizedString(Texts::MenuWindowSize));
+    for (const QSize& size : {QSize(1280, 800), QSize(1440, 900), QSize(1920, 1080),
+                              QSize(2560, 1600)}) {
+        QAction* preset = sizes->addAction(
+            QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+        connect(preset, &QAction::triggered, this,
+                [this, size] { emit sizePresetRequested(size.width(), size.height()); });
+    }
+
+    QMenu* help = menuBar()->addMenu(LocalizedString(Texts::Help));
+    QAction* updates = help->addAction(LocalizedString(Texts::MenuCheckForUpdates));
+    connect(updates, &QAction::triggered, this, &MainWindowController::checkForUpdatesRequested);
+    updates->setEnabled(false); // the update alerts are not built yet
+    QAction* guide = help->addAction(LocalizedString(Texts::MenuKelmoraHelp));
+    guide->setShortcut(QKeySequence::HelpContents);
+    connect(guide, &QAction::triggered, this, &MainWindowController::helpRequested);
+}
+
+void MainWindowController::rebuildRecentMenu()
+{
+    m_recentMenu->clear();
+    RecentDocuments recent(m_defaults);
+    for (const QString& path : recent.existingPaths()) {
+        QAction* item = m_recentMenu->addAction(QFileInfo(path).fileName());
+        item->setToolTip(path);
+        connect(item, &QAction::triggered, this,
+                [this, path] { m_viewController->openFileFromPath(path); });
+    }
+    if (!m_recentMenu->isEmpty())
+        m_recentMenu->addSeparator();
+    QAction* clear = m_recentMenu->addAction(LocalizedString(Texts::MenuClearRecent));
+    clear->setEnabled(!recent.existingPaths().isEmpty());
+    connect(clear, &QAction::triggered, this, [this] {
+        RecentDocuments(m_defaults).clear();
+        rebuildRecentMenu();
+    });
+}
+
+void MainWindowController::playStatusDidChange()
+{
+    // The button shows the state the player is in, not what a press would do.
+    if (m_playPauseButton)
+        m_playPauseButton->setIcon(IconManager::shared().iconForName(
+            m_engine.isPlaying() ? QStringLiteral("play") : QStringLiteral("pause")));
+}
+
+void MainWindowController::toolbarItemRepeat()
+{
+    m_viewController->toggleRepeat(m_repeatButton);
+}
+
+void MainWindowController::cleanupAndClose()
+{
+    m_engine.stopPlayback();
+    m_engine.closeAudioFile();
+}
+
+void MainWindowController::closeEvent(QCloseEvent* event)
+{
+    if (m_closeConfirmed || m_engine.numberOfSegments() == 0) {
+        cleanupAndClose();
+        event->accept();
+        return;
+    }
+    event->ignore();
+    auto* box = new QMessageBox(this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIcon(QMessageBox::Question);
+    box->setWindowTitle(LocalizedString(Texts::SaveDictationTitle));
+    box->setText(LocalizedString(Texts::SaveDictationTitle));
+    box->setInformativeText(LocalizedString(Texts::SaveDictationMessage));
+    box->setObjectName(QStringLiteral("saveDictationPrompt"));
+    QPushButton* save = box->addButton(LocalizedString(Texts::Save), QMessageBox::AcceptRole);
+    QPushButton* dontSave =
+        box->addButton(LocalizedString(Texts::DontSave), QMessageBox::DestructiveRole);
+    QPushButton* cancel = box->addButton(LocalizedString(Texts::Cancel), QMessageBox::RejectRole);
+    box->setDefaultButton(save);
+    box->setEscapeButton(cancel);
+    connect(box, &QMessageBox::finished, this, [this, box, save, dontSave] {
+        if (box->clickedButton() == dontSave) {
+            m_closeConfirmed = true;
+            cleanupAndClose();
+            QTimer::singleShot(0, this, &QWidget::close);
+        } else if (box->clickedButton() == save) {
+            QPointer<MainWindowController> self(this);
+            m_viewController->saveTranscriptionWithCompletion([self](bool saved) {
+                if (!saved || !self)
+                    return;
+                QMetaObject::invokeMethod(
+                    self,
+                    [self] {
+                        self->m_closeConfirmed = true;
+                        self->cleanupAndClose();
+                        self->close();
+                    },
+                    Qt::QueuedConnection);
+            });
+        }
+    });
+    box->setWindowModality(Qt::WindowModal);
+    box->open();
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/SessionServices.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+class AudioManager;
+class Defaults;
+class NotificationCenter;
+class QAction;
+class QMenu;
+class ViewController;
+
+// The main window: toolbar, menu bar and the close prompt. Its commands only
+// forward to the session (ViewController) or, for application-wide commands,
+// to whoever listens to its signals (the application delegate).
+class MainWindowController : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit MainWindowController(const SessionServices& services, QWidget* parent = nullptr);
+    ~MainWindowController() override;
+
+    ViewController* viewController() const { return m_viewController; }
+
+    // The toolbar items the window updates, named as they always were although
+    // they are actions.
+    QAction* openButton() const { return m_openButton; }
+    QAction* playPauseButton() const { return m_playPauseButton; }
+    QAction* repeatButton() const { return m_repeatButton; }
+
+    // Stops playback and closes the audio file; harmless when called twice.
+    void cleanupAndClose();
+
+    // Rebuilds the Open Recent menu from the stored list.
+    void rebuildRecentMenu();
+
+signals:
+    void preferencesRequested();
+    void checkForUpdatesRequested();
+    void helpRequested();
+    void sizePresetRequested(int width, int height);
+    void importRequested();
+    void clearRequested();
+    void importFromMusicLibraryRequested();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void setupToolbar();
+    void setupMenus();
+    void playStatusDidChange();
+    void toolbarItemRepeat();
+
+    AudioManager& m_engine;
+    NotificationCenter& m_center;
+    Defaults& m_defaults;
+    ViewController* m_viewController;
+    QPointer<QAction> m_openButton;
+    QPointer<QAction> m_playPauseButton;
+    QPointer<QAction> m_repeatButton;
+    QMenu* m_recentMenu = nullptr;
+    bool m_closeConfirmed = false;
+};

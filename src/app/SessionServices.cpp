@@ -1,0 +1,14 @@
+#include "app/SessionServices.h"
+
+#include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "preferences/Defaults.h"
+#include "transcript/DocumentManager.h"
+#include "transcript/TranscriptionManager.h"
+
+SessionServices SessionServices::shared()
+{
+    return {AudioManager::sharedInstance(), NotificationCenter::defaultCenter(),
+            Defaults::standard(), TranscriptionManager::sharedInstance(),
+            DocumentManager::shared()};
+}

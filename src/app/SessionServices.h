@@ -1,0 +1,20 @@
+#pragma once
+
+class AudioManager;
+class Defaults;
+class DocumentManager;
+class NotificationCenter;
+class TranscriptionManager;
+
+// The long-lived parts a window works with: the application's single
+// instances, or fresh ones in a test.
+struct SessionServices
+{
+    AudioManager& engine;
+    NotificationCenter& center;
+    Defaults& defaults;
+    TranscriptionManager& transcriptions;
+    const DocumentManager& documents;
+
+    static SessionServices shared();
+};

@@ -1,0 +1,187 @@
+// Moving between segments, play/pause, and following the playing position.
+
+#include "app/IconManager.h"
+#include "app/ViewController.h"
+#include "audio/AudioManager.h"
+#include "audio/AudioPlayer.h"
+#include "views/TranscriptionTableView.h"
+#include "views/WaveformView.h"
+
+#include <QAction>
+#include <QPointer>
+#include <QTimer>
+#include <algorithm>
+
+void ViewController::playSegement(qint64 index)
+{
+    updateUIForCurrentSegment(index);
+    m_engine.playSegmentAtIndex(index);
+}
+
+void ViewController::updateUIForCurrentSegment(qint64 index)
+{
+    m_currentSegmentIndex = index;
+    m_waveformView->setCurrentSegment(index);
+    m_table->setCurrentSegment(index);
+}
+
+void ViewController::playPreviousSegment()
+{
+    if (isProcessing() || m_currentSegmentIndex <= 0)
+        return;
+    stopAutoUpdateWavePos();
+    playSegement(--m_currentSegmentIndex);
+}
+
+void ViewController::playNextSegment()
+{
+    if (isProcessing())
+        return;
+    stopAutoUpdateWavePos();
+    // After the last segment the next one is the first.
+    const qint64 next =
+        m_currentSegmentIndex < m_engine.numberOfSegments() - 1 ? m_currentSegmentIndex + 1 : 0;
+    playSegement(next);
+}
+
+void ViewController::replayCurrentSegment()
+{
+    if (isProcessing())
+        return;
+    stopAutoUpdateWavePos();
+    m_engine.playSegmentAtIndex(m_currentSegmentIndex);
+}
+
+void ViewController::playFirstSegment()
+{
+    if (isProcessing() || m_currentSegmentIndex <= 0)
+        return;
+    stopAutoUpdateWavePos();
+    m_currentSegmentIndex = 0;
+    playSegement(0);
+}
+
+void ViewController::togglePlayPause()
+{
+    if (isProcessing() || m_engine.numberOfSegments() == 0)
+        return;
+    if (m_engine.isPlaying())
+        m_engine.pausePlayback();
+    else
+        m_engine.resumePlayback();
+    updateStatusBar();
+}
+
+void ViewController::preparePlaySegment()
+{
+    if (isProcessing())
+        return;
+    m_engine.stopPlayback();
+    if (m_engine.isRepeatMode() &&
+        static_cast<float>(m_engine.currentSegmentRepeatedTimes()) < m_engine.maxRepeatPlayTimes())
+        replayCurrentSegment();
+    else
+        playNextSegment();
+}
+
+void ViewController::didSelectSegmentAtIndex(qint64 index)
+{
+    if (isProcessing())
+        return;
+    if (index != m_currentSegmentIndex) {
+        stopAutoUpdateWavePos();
+        playSegement(index);
+    }
+}
+
+void ViewController::startAutoUpdateWavePosTimer(int intervalMs)
+{
+    m_waveformView->setAutoUpdatePos(true);
+    m_autoUpdateWavePosTimer->stop();
+    m_autoUpdateWavePosTimer->disconnect();
+    m_autoUpdateWavePosTimer->setInterval(intervalMs);
+    connect(m_autoUpdateWavePosTimer, &QTimer::timeout, this,
+            &ViewController::updateCurrentSegmentIndex);
+    m_autoUpdateWavePosTimer->start();
+}
+
+void ViewController::stopAutoUpdateWavePos()
+{
+    m_waveformView->setAutoUpdatePos(false);
+}
+
+void ViewController::updateCurrentSegmentIndex()
+{
+    if (isProcessing() || m_engine.numberOfSegments() == 0 || m_engine.isRepeatMode())
+        return;
+    if (!m_waveformView->autoUpdatePos())
+        return;
+    if (m_waveformView->isHidden()) {
+        // With the strip switched off nothing else follows the player.
+        const AudioPlayer* player = m_engine.audioPlayer();
+        const double now = player ? player->currentTime() : 0.0;
+        const qint64 last = m_engine.numberOfSegments() - 1;
+        if (now > 0.0 && m_currentSegmentIndex >= 0 && m_currentSegmentIndex < last &&
+            now > m_engine.segments()[m_currentSegmentIndex + 1].start) {
+            ++m_currentSegmentIndex;
+            m_waveformView->setCurrentSegment(m_currentSegmentIndex);
+            m_engine.setCurrentSegmentIndex(m_currentSegmentIndex);
+            m_table->setCurrentSegment(m_currentSegmentIndex);
+        }
+    }
+    if (m_engine.isPlaybackFinished()) {
+        // Playing on stops shortly into the segment after the one that ran
+        // out, so that the learner can type.
+        playNextSegment();
+        if (m_pauseTimer)
+            m_pauseTimer->deleteLater();
+        m_pauseTimer = new QTimer(this);
+        m_pauseTimer->setSingleShot(true);
+        QPointer<ViewController> self(this);
+        connect(m_pauseTimer, &QTimer::timeout, this, [self] {
+            if (self)
+                self->m_engine.pausePlayback();
+        });
+        m_pauseTimer->start(100);
+        return;
+    }
+    if (!m_waveformView->isHidden() &&
+        m_waveformView->currentSegmentIndex() != m_currentSegmentIndex) {
+        m_currentSegmentIndex = m_waveformView->currentSegmentIndex();
+        m_engine.setCurrentSegmentIndex(m_currentSegmentIndex);
+        m_table->setCurrentSegment(m_currentSegmentIndex);
+    }
+}
+
+void ViewController::toggleRepeat(QAction* sender)
+{
+    m_engine.setRepeatMode(!m_engine.isRepeatMode());
+    const QString icon =
+        m_engine.isRepeatMode() ? QStringLiteral("repeat.1") : QStringLiteral("forward");
+    if (sender)
+        sender->setIcon(IconManager::shared().iconForName(icon));
+    else
+        updateToolbarItemImagName(QStringLiteral("repeatMode"), icon);
+    if (isProcessing() || m_engine.numberOfSegments() == 0)
+        return;
+    m_waveformView->setAutoUpdatePos(!m_engine.isRepeatMode());
+    // The end of the current segment, in wall-clock time at the current rate.
+    const qint64 index = qBound<qint64>(0, m_currentSegmentIndex, m_engine.numberOfSegments() - 1);
+    const Segment& segment = m_engine.segments()[index];
+    const AudioPlayer* player = m_engine.audioPlayer();
+    const double now = player ? player->currentTime() : segment.start;
+    const double rate = m_engine.currentRate() > 0.0f ? m_engine.currentRate() : 1.0;
+    const double left = (segment.start + segment.duration - now) / rate;
+    if (m_playbackTimer)
+        m_playbackTimer->deleteLater();
+    m_playbackTimer = new QTimer(this);
+    m_playbackTimer->setSingleShot(true);
+    QPointer<ViewController> self(this);
+    connect(m_playbackTimer, &QTimer::timeout, this, [self] {
+        if (self)
+            QMetaObject::invokeMethod(self, &ViewController::preparePlaySegment,
+                                      Qt::QueuedConnection);
+    });
+    m_playbackTimer->start(static_cast<int>(std::max(0.0, left) * 1000.0));
+    updateStatusBar();
+}

@@ -1,0 +1,151 @@
+#pragma once
+
+#include "app/SessionServices.h"
+#include "views/TranscriptionTableDelegate.h"
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+class AudioManager;
+class Defaults;
+class LoadingIndicator;
+class NotificationCenter;
+class QAction;
+class QGraphicsOpacityEffect;
+class QLabel;
+class QParallelAnimationGroup;
+class QScrollArea;
+class QStatusBar;
+class QThreadPool;
+class QTimer;
+class DocumentManager;
+class TranscriptionManager;
+class TranscriptionTableView;
+class WaveformView;
+
+// The main window's content and the session: it owns the table, the waveform
+// strip and the status bar, wires them to the engine, and holds the file that
+// is open. Toolbar and menu commands only forward to it.
+class ViewController : public QWidget, public TranscriptionTableDelegate
+{
+    Q_OBJECT
+public:
+    explicit ViewController(const SessionServices& services, QWidget* parent = nullptr);
+    ~ViewController() override;
+
+    // ---- Set-up (ViewController.cpp) ----
+    void showStatusBarHidden(bool hidden, bool animated);
+    void showWaveViewHidden(bool hidden, bool animated);
+    void resizeWindowToWidth(int width, int height);
+    void updateToolbarItemImagName(const QString& identifier, const QString& imageName);
+
+    // ---- Opening (ViewController+Opening.cpp) ----
+    // The checked road: the open panel, then the type and size checks.
+    void openFile();
+    void handleSelectedFile(const QString& path);
+    static bool isValidAudioFile(const QString& path);
+    static const QStringList& audioFileExtensions();
+    // The direct road: no type or size check.
+    void openFileFromPath(const QString& path);
+    // Runs the engine on currentAudioPath() on a worker, then shows the result.
+    void processAudioFile();
+    bool isProcessing() const { return m_loadsRunning > 0; }
+    // Called with the outcome after each opening has been shown (tests, the shell).
+    void setOpeningFinishedHandler(std::function<void(bool success)> handler);
+    void showLoadingIndicator();
+    void hideLoadingIndicator();
+
+    // ---- Navigation (ViewController+Navigation.cpp) ----
+    void playSegement(qint64 index);
+    void updateUIForCurrentSegment(qint64 index);
+    void playPreviousSegment();
+    void playNextSegment();
+    void replayCurrentSegment();
+    void playFirstSegment();
+    void togglePlayPause();
+    // Repeat each segment, or play on; the sender's icon follows (a key press
+    // has none, and the toolbar item is found by its identifier).
+    void toggleRepeat(QAction* sender);
+    void preparePlaySegment();
+    void didSelectSegmentAtIndex(qint64 index) override;
+    void startAutoUpdateWavePosTimer(int intervalMs);
+    void stopAutoUpdateWavePos();
+    void updateCurrentSegmentIndex();
+    // Kept as the hooks they have always been; nothing fills them.
+    void updatePlaybackProgress() {}
+    void updateSegmentInfo() {}
+
+    // ---- Persistence (ViewController+Persistence.cpp) ----
+    void initTranscription();
+    void initEmptyTranscriptions();
+    // Asks for an existing .lrc file, writes the transcript there and into
+    // the store; the completion hears whether the chosen file was written.
+    void saveTranscriptionWithCompletion(const std::function<void(bool)>& completion);
+    bool saveTranscriptionToSandbox();
+    // Export through a save panel proposing "<audio name>.lrc".
+    void saveTranscription();
+
+    // ---- Status bar and title (ViewController+StatusBar.cpp) ----
+    void updateStatusBar();
+    void changeWindowTitle(const QString& title);
+    static void showError(const QString& title, const QString& message);
+    QString statusText() const;
+
+    QString currentAudioPath() const { return m_currentAudioPath; }
+    qint64 currentSegmentIndex() const { return m_currentSegmentIndex; }
+    AudioManager& engine() const { return m_engine; }
+    TranscriptionTableView* transcriptionTableView() const { return m_table; }
+    WaveformView* waveformView() const { return m_waveformView; }
+    QWidget* waveformContainer() const { return m_waveformContainer; }
+    QStatusBar* statusBar() const { return m_statusBar; }
+    LoadingIndicator* loadingIndicator() const { return m_loadingIndicator; }
+
+private:
+    void buildViews();
+    void listenNotifications();
+    void setupStatusBar();
+    void setupConstraints();
+    void showUIElement();
+    void animateHeight(QWidget* area, QGraphicsOpacityEffect* effect, int height, bool hidden,
+                       bool animated);
+    void finishOpening(bool success, const QString& path);
+    void showAnalysisProgress();
+    void stageTranscriptions(TranscriptionManager& store) const;
+
+    AudioManager& m_engine;
+    NotificationCenter& m_center;
+    Defaults& m_defaults;
+    TranscriptionManager& m_transcriptions;
+    const DocumentManager& m_documents;
+
+    TranscriptionTableView* m_table = nullptr;
+    QWidget* m_waveformContainer = nullptr;
+    QScrollArea* m_waveformScrollArea = nullptr;
+    WaveformView* m_waveformView = nullptr;
+    QStatusBar* m_statusBar = nullptr;
+    QLabel* m_statusBarLabel = nullptr;
+    QLabel* m_timeLabel = nullptr;
+    LoadingIndicator* m_loadingIndicator = nullptr;
+    QGraphicsOpacityEffect* m_waveformOpacity = nullptr;
+    QGraphicsOpacityEffect* m_statusBarOpacity = nullptr;
+    QPointer<QParallelAnimationGroup> m_waveAnimation;
+    int m_heightWaveView = 0;
+    int m_heightStatusBar = 0;
+
+    QString m_currentAudioPath;
+    qint64 m_currentSegmentIndex = 0;
+
+    QTimer* m_autoUpdateWavePosTimer = nullptr;
+    QTimer* m_progressTimer = nullptr; // reads the analysis fraction while a load runs
+    QPointer<QTimer> m_pauseTimer;
+    QPointer<QTimer> m_playbackTimer; // the repeat switch's end of segment
+
+    // Loads run one after another on their own thread; the engine is not
+    // touched from here while one runs.
+    std::unique_ptr<QThreadPool> m_analysisQueue;
+    int m_loadsRunning = 0;
+    std::function<void(bool)> m_openingFinished;
+};

@@ -1,0 +1,263 @@
+// The main window offscreen: opening a lesson through the direct road, what a
+// failed opening leaves behind, the three areas, the close prompt, and the
+// screenshots a person looks at.
+
+#include "app/MainWindowController.h"
+#include "app/RecentDocuments.h"
+#include "app/ViewController.h"
+#include "app/WindowHarness.h"
+#include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "common/NotificationNames.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+#include "support/TestSupport.h"
+#include "views/TranscriptionTableView.h"
+#include "views/WaveformView.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QGraphicsOpacityEffect>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolBar>
+#include <gtest/gtest.h>
+
+using TestSupport::fixture;
+
+namespace {
+
+QAction* toolbarAction(MainWindowController& window, const QString& identifier)
+{
+    for (QToolBar* toolbar : window.findChildren<QToolBar*>()) {
+        for (QAction* action : toolbar->actions()) {
+            if (action->objectName() == identifier)
+                return action;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TEST(MainWindow, StartsEmptyWithTheLaunchText)
+{
+    WindowHarness h;
+    EXPECT_EQ(h.window().windowTitle(), "Kelmora");
+    EXPECT_EQ(h.session().statusText(), "No audio file opened");
+    EXPECT_EQ(h.session().transcriptionTableView()->model()->rowCount(), 0);
+    EXPECT_TRUE(h.session().waveformView()->segments().isEmpty());
+    ASSERT_NE(toolbarAction(h.window(), "repeatMode"), nullptr);
+}
+
+TEST(MainWindow, OpensALessonShowsItsSegmentsAndPlaysTheFirst)
+{
+    WindowHarness h;
+    QApplication::setActiveWindow(&h.window());
+    bool success = false;
+    ASSERT_TRUE(h.open(fixture("speech.mp3"), &success));
+    ASSERT_TRUE(success);
+
+    const qsizetype segments = h.engine().numberOfSegments();
+    ASSERT_GT(segments, 1);
+    TranscriptionTableView* table = h.session().transcriptionTableView();
+    EXPECT_EQ(h.window().windowTitle(), "speech");
+    EXPECT_EQ(table->model()->rowCount(), segments);
+    EXPECT_EQ(h.session().waveformView()->segments().size(), segments);
+    EXPECT_EQ(h.session().waveformView()->currentSegmentIndex(), 0);
+    EXPECT_EQ(table->currentIndex(), 0);
+    EXPECT_TRUE(h.engine().isPlaying());
+    EXPECT_EQ(h.engine().currentSegmentIndex(), 0);
+    EXPECT_EQ(RecentDocuments(h.defaults()).paths().value(0), fixture("speech.mp3"));
+
+    const QString status = h.session().statusText();
+    EXPECT_TRUE(status.startsWith(fixture("speech.mp3") + " | MP3: ")) << status.toStdString();
+    EXPECT_TRUE(status.contains(QStringLiteral(" | Segments: %1 | Play | ").arg(segments)))
+        << status.toStdString();
+
+    // The focus is in row 0's editor, and what is typed lands in row 0.
+    ASSERT_TRUE(waitFor([&] { return QApplication::focusWidget() == table->editorForRow(0); }));
+    QTest::keyClicks(QApplication::focusWidget(), "Good morning");
+    EXPECT_EQ(table->mutableTranscriptions().value(0), "Good morning");
+
+    const QImage shot = h.screenshot(QStringLiteral("main-window"));
+    EXPECT_EQ(shot.size() / shot.devicePixelRatio(), QSize(1280, 800));
+    // The status bar's grey band runs along the bottom.
+    const QPoint inStatusBar(1270, 800 - 12);
+    EXPECT_EQ(shot.pixelColor(inStatusBar * shot.devicePixelRatio()).rgb(),
+              QColor(199, 203, 209).rgb());
+}
+
+struct BadFile
+{
+    const char* name;
+};
+
+class FailedOpening : public ::testing::TestWithParam<BadFile>
+{
+};
+
+TEST_P(FailedOpening, AlertsThenShowsWhatTheEngineHoldsAndStaysUsable)
+{
+    const QString bad = fixture(GetParam().name);
+    for (const bool afterAGoodFile : {false, true}) {
+        SCOPED_TRACE(afterAGoodFile ? "after a good file" : "first");
+        WindowHarness h;
+        if (afterAGoodFile)
+            ASSERT_TRUE(h.open(fixture("speech.wav")));
+        AlertAnswerer answerer(QStringLiteral("OK"));
+        bool success = true;
+        ASSERT_TRUE(h.open(bad, &success));
+        EXPECT_FALSE(success);
+        ASSERT_EQ(answerer.seen().size(), 1);
+        EXPECT_EQ(answerer.seen()[0].title, "Error");
+        EXPECT_EQ(answerer.seen()[0].text, "Error");
+        EXPECT_EQ(answerer.seen()[0].informativeText, "Failed to process audio file");
+
+        // The window shows the engine's state, and the title names the file.
+        EXPECT_EQ(h.session().transcriptionTableView()->model()->rowCount(),
+                  h.engine().numberOfSegments());
+        EXPECT_EQ(h.session().waveformView()->segments().size(), h.engine().numberOfSegments());
+        EXPECT_EQ(h.window().windowTitle(), QFileInfo(bad).completeBaseName());
+
+        // A good file opens after it as ever.
+        ASSERT_TRUE(h.open(fixture("speech.wav"), &success));
+        EXPECT_TRUE(success);
+        EXPECT_GT(h.session().transcriptionTableView()->model()->rowCount(), 1);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(MainWindow, FailedOpening,
+                         ::testing::Values(BadFile{"text.mp3"}, BadFile{"truncated.mp3"},
+                                           BadFile{"empty.mp3"}),
+                         [](const auto& info) {
+                             return QFileInfo(info.param.name).baseName().toStdString();
+                         });
+
+TEST(MainWindow, StatusBarTogglesAtOnceAndTheWaveformStripSlides)
+{
+    WindowHarness h;
+    QWidget* strip = h.session().waveformContainer();
+    QStatusBar* status = h.session().statusBar();
+    const int stripHeight = strip->height();
+    ASSERT_GT(stripHeight, 0);
+
+    h.center().post(Notifications::ShowStatusBarDidChange, false);
+    EXPECT_TRUE(status->isHidden());
+    EXPECT_EQ(status->maximumHeight(), 0);
+
+    h.center().post(Notifications::ShowAudioWaveDidChange, false);
+    EXPECT_TRUE(h.session().waveformView()->isHidden());
+    EXPECT_GT(strip->maximumHeight(), 0); // still sliding
+    ASSERT_TRUE(waitFor([&] { return strip->maximumHeight() == 0; }, 2000));
+    auto* effect = qobject_cast<QGraphicsOpacityEffect*>(strip->graphicsEffect());
+    ASSERT_NE(effect, nullptr);
+    EXPECT_DOUBLE_EQ(effect->opacity(), 0.0);
+
+    h.center().post(Notifications::ShowAudioWaveDidChange, true);
+    h.center().post(Notifications::ShowStatusBarDidChange, true);
+    EXPECT_FALSE(status->isHidden());
+    ASSERT_TRUE(waitFor([&] { return strip->height() == stripHeight; }, 2000));
+    EXPECT_DOUBLE_EQ(effect->opacity(), 1.0);
+}
+
+TEST(MainWindow, APresetLargerThanTheScreenKeepsItsSizeAndStartsAtTheVisibleEdge)
+{
+    WindowHarness h;
+    const QRect visible = h.window().screen()->availableGeometry();
+    h.session().resizeWindowToWidth(visible.width() + 400, visible.height() + 300);
+    const QRect frame = h.window().geometry();
+    EXPECT_EQ(frame.size(), QSize(visible.width() + 400, visible.height() + 300));
+    EXPECT_EQ(frame.topLeft(), visible.topLeft());
+}
+
+TEST(ClosePrompt, WithNoFileOpenTheWindowClosesAtOnce)
+{
+    WindowHarness h;
+    AlertAnswerer answerer(QStringLiteral("Cancel"));
+    EXPECT_TRUE(h.window().close());
+    QApplication::processEvents();
+    EXPECT_TRUE(answerer.seen().isEmpty());
+    EXPECT_FALSE(h.window().isVisible());
+}
+
+TEST(ClosePrompt, CancelKeepsWindowPlaybackAndSession)
+{
+    WindowHarness h;
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    AlertAnswerer answerer(QStringLiteral("Cancel"));
+    h.window().close();
+    ASSERT_TRUE(answerer.waitForAlerts(1));
+    EXPECT_EQ(answerer.seen()[0].text, "Save Dictation?");
+    EXPECT_EQ(answerer.seen()[0].informativeText,
+              "Do you want to save the dictation before closing?");
+    EXPECT_EQ(answerer.seen()[0].buttons, (QStringList{"Save", "Don't Save", "Cancel"}));
+    QApplication::processEvents();
+    EXPECT_TRUE(h.window().isVisible());
+    EXPECT_TRUE(h.engine().isPlaying());
+    EXPECT_GT(h.engine().numberOfSegments(), 0);
+}
+
+TEST(ClosePrompt, DontSaveStopsTheEngineAndCloses)
+{
+    WindowHarness h;
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    AlertAnswerer answerer(QStringLiteral("Don't Save"));
+    h.window().close();
+    ASSERT_TRUE(waitFor([&] { return !h.window().isVisible(); }));
+    EXPECT_FALSE(h.engine().isPlaying());
+}
+
+TEST(ClosePrompt, SaveWritesTheChosenTranscriptThenCloses)
+{
+    WindowHarness h;
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    h.session().transcriptionTableView()->updateTranscription(QStringLiteral("Good morning"), 0);
+    const QString chosen = h.documentsPath() + QStringLiteral("/chosen.lrc");
+    {
+        QFile file(chosen);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("old");
+    }
+    // The save asks for an existing transcript in a file panel.
+    QTimer panelAnswer;
+    panelAnswer.setInterval(10);
+    QObject::connect(&panelAnswer, &QTimer::timeout, [&] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* panel = qobject_cast<QFileDialog*>(widget);
+            if (panel && panel->isVisible()) {
+                panelAnswer.stop();
+                panel->selectFile(chosen);
+                QMetaObject::invokeMethod(panel, &QDialog::accept, Qt::QueuedConnection);
+            }
+        }
+    });
+    panelAnswer.start();
+    AlertAnswerer answerer(QStringLiteral("Save"));
+    h.window().close();
+    ASSERT_TRUE(waitFor([&] { return !h.window().isVisible(); }));
+
+    QFile file(chosen);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    EXPECT_EQ(lines.size(), h.session().transcriptionTableView()->model()->rowCount());
+    EXPECT_EQ(lines.value(0), "[00:00.000]Good morning");
+}
+
+TEST(MainWindowLanguages, ScreenshotsInChineseAndThai)
+{
+    for (const char* language : {"zh-Hans", "th"}) {
+        SCOPED_TRACE(language);
+        WindowHarness h{QString::fromLatin1(language)};
+        ASSERT_TRUE(h.open(fixture("speech.mp3")));
+        // The toolbar speaks the language.
+        QAction* open = toolbarAction(h.window(), "open");
+        ASSERT_NE(open, nullptr);
+        EXPECT_EQ(open->text(), LocalizedString(Texts::ToolbarOpen));
+        EXPECT_NE(open->text(), "Open");
+        EXPECT_TRUE(h.session().statusText().contains(LocalizedString(Texts::Segments)));
+        h.screenshot(QStringLiteral("main-window-") + language);
+    }
+}

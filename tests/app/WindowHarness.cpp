@@ -1,0 +1,131 @@
+#include "app/WindowHarness.h"
+
+#include "app/MainWindowController.h"
+#include "app/ViewController.h"
+#include "audio/AudioManager.h"
+#include "audio/NullAudioOutput.h"
+#include "common/NotificationCenter.h"
+#include "localization/LanguageBundle.h"
+#include "localization/LanguageManager.h"
+#include "preferences/DefaultPreferences.h"
+#include "preferences/Defaults.h"
+#include "preferences/PreferenceKeys.h"
+#include "transcript/DocumentManager.h"
+#include "transcript/TranscriptionManager.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFont>
+#include <QFontDatabase>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+WindowHarness::WindowHarness(const QString& language)
+{
+    QFont::insertSubstitution(QStringLiteral("Menlo"),
+                              QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    regDefaultPreference(m_defaults.store());
+    m_center = std::make_unique<NotificationCenter>();
+    m_documents = std::make_unique<DocumentManager>(m_documentsDir.path());
+    m_engine = std::make_unique<AudioManager>(m_defaults.store(), *m_center);
+    m_engine->setOutputFactory(
+        [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
+    m_transcriptions = std::make_unique<TranscriptionManager>(
+        [engine = m_engine.get()] { return engine->getTotalDuration(); });
+    if (!language.isEmpty()) {
+        m_defaults.store().setObject(QStringList{language}, PreferenceKeys::AppleLanguages);
+        m_bundle = std::make_unique<LanguageBundle>(m_defaults.store());
+        m_language = std::make_unique<LanguageManager>(m_defaults.store(), *m_center, *m_bundle);
+        m_language->installStartupTranslator();
+    }
+    m_window = std::make_unique<MainWindowController>(
+        SessionServices{*m_engine, *m_center, m_defaults.store(), *m_transcriptions,
+                        *m_documents});
+    m_window->resize(1280, 800);
+    m_window->show();
+    QApplication::processEvents();
+}
+
+WindowHarness::~WindowHarness()
+{
+    m_window.reset();
+    if (m_language)
+        m_language->removeStartupTranslator();
+    QApplication::processEvents();
+}
+
+ViewController& WindowHarness::session()
+{
+    return *m_window->viewController();
+}
+
+bool WindowHarness::open(const QString& path, bool* success)
+{
+    bool finished = false;
+    session().setOpeningFinishedHandler([&](bool ok) {
+        finished = true;
+        if (success)
+            *success = ok;
+    });
+    session().openFileFromPath(path);
+    const bool done = waitFor([&] { return finished; }, 60000);
+    session().setOpeningFinishedHandler({});
+    // The table selects its first row on the next turn of the event loop.
+    QApplication::processEvents();
+    return done;
+}
+
+QImage WindowHarness::screenshot(const QString& name)
+{
+    QApplication::processEvents();
+    const QImage image = m_window->grab().toImage();
+    QDir().mkpath(QStringLiteral(KELMORA_SCREENSHOT_DIR));
+    image.save(QStringLiteral(KELMORA_SCREENSHOT_DIR "/") + name + QStringLiteral(".png"));
+    return image;
+}
+
+bool waitFor(const std::function<bool()>& condition, int timeoutMs)
+{
+    QDeadlineTimer deadline(timeoutMs);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    return true;
+}
+
+AlertAnswerer::AlertAnswerer(const QString& buttonText)
+    : m_buttonText(buttonText), m_poll(std::make_unique<QTimer>())
+{
+    m_poll->setInterval(10);
+    QObject::connect(m_poll.get(), &QTimer::timeout, [this] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* box = qobject_cast<QMessageBox*>(widget);
+            if (!box || !box->isVisible() || box->property("kelmoraAnswered").toBool())
+                continue;
+            AlertSeen seen{box->windowTitle(), box->text(), box->informativeText(), {}};
+            QAbstractButton* chosen = nullptr;
+            for (QAbstractButton* button : box->buttons()) {
+                seen.buttons << button->text();
+                if (button->text() == m_buttonText)
+                    chosen = button;
+            }
+            m_seen << seen;
+            box->setProperty("kelmoraAnswered", true);
+            if (chosen)
+                QMetaObject::invokeMethod(chosen, &QAbstractButton::click, Qt::QueuedConnection);
+        }
+    });
+    m_poll->start();
+}
+
+AlertAnswerer::~AlertAnswerer() = default;
+
+bool AlertAnswerer::waitForAlerts(qsizetype count, int timeoutMs)
+{
+    return waitFor([&] { return m_seen.size() >= count; }, timeoutMs);
+}

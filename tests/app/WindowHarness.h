@@ -1,0 +1,89 @@
+#pragma once
+
+#include "app/SessionServices.h"
+#include "support/TestSupport.h"
+
+#include <QImage>
+#include <QList>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <functional>
+#include <memory>
+
+class AudioManager;
+class DocumentManager;
+class LanguageBundle;
+class LanguageManager;
+class MainWindowController;
+class NotificationCenter;
+class QTimer;
+class TranscriptionManager;
+class ViewController;
+
+// A main window of its own for each test: a fresh settings file, documents
+// folder and engine playing into a silent output.
+class WindowHarness
+{
+public:
+    // With a language code the window is built in that language.
+    explicit WindowHarness(const QString& language = QString());
+    ~WindowHarness();
+
+    MainWindowController& window() { return *m_window; }
+    ViewController& session();
+    AudioManager& engine() { return *m_engine; }
+    NotificationCenter& center() { return *m_center; }
+    Defaults& defaults() { return m_defaults.store(); }
+    QString documentsPath() const { return m_documentsDir.path(); }
+
+    // Opens through the direct road and waits for the window to show the
+    // result; false when it did not finish in time.
+    bool open(const QString& path, bool* success = nullptr);
+
+    // Saves the window's picture as NAME.png among the test run's screenshots.
+    QImage screenshot(const QString& name);
+
+private:
+    TestSupport::TempDefaults m_defaults;
+    QTemporaryDir m_documentsDir;
+    std::unique_ptr<NotificationCenter> m_center;
+    std::unique_ptr<DocumentManager> m_documents;
+    std::unique_ptr<TranscriptionManager> m_transcriptions;
+    std::unique_ptr<AudioManager> m_engine;
+    std::unique_ptr<LanguageBundle> m_bundle;
+    std::unique_ptr<LanguageManager> m_language;
+    std::unique_ptr<MainWindowController> m_window;
+};
+
+// What an alert said, and which of its buttons was pressed.
+struct AlertSeen
+{
+    QString title;
+    QString text;
+    QString informativeText;
+    QStringList buttons;
+};
+
+// Answers every alert (a QMessageBox) that appears while it lives by pressing
+// the button with the given text, and notes what each said. It looks from a
+// timer, which also fires inside a modal alert's own event loop.
+class AlertAnswerer
+{
+public:
+    explicit AlertAnswerer(const QString& buttonText);
+    ~AlertAnswerer();
+    AlertAnswerer(const AlertAnswerer&) = delete;
+    AlertAnswerer& operator=(const AlertAnswerer&) = delete;
+
+    const QList<AlertSeen>& seen() const { return m_seen; }
+    // Runs the event loop until `count` alerts were answered.
+    bool waitForAlerts(qsizetype count, int timeoutMs = 10000);
+
+private:
+    QString m_buttonText;
+    QList<AlertSeen> m_seen;
+    std::unique_ptr<QTimer> m_poll;
+};
+
+// Runs the event loop until the condition holds or the time is up.
+bool waitFor(const std::function<bool()>& condition, int timeoutMs = 10000);

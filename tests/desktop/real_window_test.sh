@@ -1,0 +1,120 @@
+#!/usr/bin/env bash
+# Runs the real kelmora in a real X server (Xvfb) with a private PulseAudio
+# null sink and a private D-Bus session, and uses it the way a learner does:
+# it opens a lesson, segment 0 is heard, typing lands in row 0, and the close
+# prompt's "Don't Save" ends the program with exit status 0. What the window
+# shows is read through the accessibility bus (AT-SPI).
+#
+# Usage: real_window_test.sh KELMORA FIXTURE SCREENSHOT_DIR
+# The script re-runs itself inside a private D-Bus session.
+set -euo pipefail
+
+if [ -z "${KELMORA_IN_SESSION:-}" ]; then
+  export KELMORA_IN_SESSION=1
+  exec dbus-run-session -- "$0" "$@"
+fi
+
+kelmora="$1"
+fixture="$2"
+shots="$3"
+here="$(cd "$(dirname "$0")" && pwd)"
+probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
+fail() { echo "FAIL: $*" >&2; exit 1; }
+
+work="$(mktemp -d)"
+pids=()
+cleanup() {
+  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+  if [ -f "$work/pulse/runtime/pid" ]; then kill "$(cat "$work/pulse/runtime/pid")" 2>/dev/null || true; fi
+  wait 2>/dev/null || true
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+# A private home: settings, documents and transcripts go there.
+export HOME="$work/home"
+export XDG_CONFIG_HOME="$HOME/.config" XDG_DATA_HOME="$HOME/.local/share"
+export XDG_RUNTIME_DIR="$work/xdg"
+mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+unset WAYLAND_DISPLAY
+
+# The X server, on the first free display number.
+exec 5> "$work/display"
+Xvfb -displayfd 5 -screen 0 1280x900x24 -nolisten tcp > "$work/xvfb.log" 2>&1 &
+pids+=($!)
+for _ in $(seq 50); do [ -s "$work/display" ] && break; sleep 0.1; done
+[ -s "$work/display" ] || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
+export DISPLAY=":$(head -n1 "$work/display")"
+
+# The sound server with one null sink; a silent stream keeps it awake.
+mkdir -p "$work/pulse/runtime" "$work/pulse/state"
+export PULSE_RUNTIME_PATH="$work/pulse/runtime" PULSE_STATE_PATH="$work/pulse/state"
+socket="$work/pulse/native"
+pulseaudio --daemonize=yes -n --exit-idle-time=-1 --use-pid-file=yes \
+  --load="module-null-sink sink_name=testsink rate=48000 channels=2" \
+  --load="module-native-protocol-unix auth-anonymous=1 socket=$socket" \
+  --load=module-always-sink > "$work/pulse.log" 2>&1 || fail "pulseaudio: $(cat "$work/pulse.log")"
+export PULSE_SERVER="unix:$socket"
+for _ in $(seq 50); do pactl info > /dev/null 2>&1 && break; sleep 0.1; done
+pacat -p --latency-msec=20 < /dev/zero &
+pids+=($!)
+parec --latency-msec=20 -d testsink.monitor --format=s16le --rate=48000 --channels=1 > "$work/capture.raw" &
+pids+=($!)
+
+# Kelmora, as a file manager would start it, with its accessibility bridge on.
+export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+"$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
+app=$!
+pids+=($app)
+
+title="$(basename "${fixture%.*}")"
+probe wait-window "$title" > /dev/null || fail "no window titled $title"
+echo "window titled: $title"
+
+# The table has one row per segment, and row 0 has the focus.
+rows="$(probe rows)"
+[ "$rows" -gt 1 ] || fail "the table has $rows rows"
+echo "rows: $rows"
+
+# Segment 0 is heard: the capture holds sound within a few seconds.
+heard=0
+for _ in $(seq 40); do
+  bytes=$(stat -c %s "$work/capture.raw")
+  if [ "$bytes" -gt 96000 ]; then
+    peak=$(sox -t raw -r 48000 -e signed -b 16 -c 1 "$work/capture.raw" -n stat 2>&1 | awk '/Maximum amplitude/ {print $3}')
+    if awk -v p="$peak" 'BEGIN { exit !(p > 0.05) }'; then heard=1; break; fi
+  fi
+  sleep 0.25
+done
+[ "$heard" = 1 ] || fail "no sound in the capture (peak ${peak:-none})"
+echo "heard: peak amplitude $peak"
+
+# Typing goes into row 0.
+xdotool search --sync --name "^$title\$" windowactivate --sync > /dev/null 2>&1 || true
+xdotool type --delay 30 "Good morning"
+typed=""
+for _ in $(seq 25); do
+  typed="$(probe cell 0 1)"
+  [ "$typed" = "Good morning" ] && break
+  sleep 0.2
+done
+[ "$typed" = "Good morning" ] || fail "row 0 reads '$typed'"
+echo "row 0: $typed"
+status="$(probe status)"
+case "$status" in *"$title"*) ;; *) fail "status bar reads '$status'";; esac
+echo "status bar: $status"
+
+# The window as it looks now.
+mkdir -p "$shots"
+xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
+ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/real-window.png"
+
+# Closing asks whether to save; "Don't Save" ends the program.
+xdotool key --clearmodifiers ctrl+q
+probe press "Don't Save" > /dev/null || fail "no close prompt"
+for _ in $(seq 50); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
+if kill -0 "$app" 2>/dev/null; then fail "kelmora still runs after Don't Save"; fi
+status=0
+wait "$app" || status=$?
+[ "$status" = 0 ] || fail "kelmora exited with $status: $(tail -5 "$work/kelmora.log")"
+echo "closed with Don't Save: exit status 0"
