@@ -1,0 +1,110 @@
+#pragma once
+
+#include "views/TranscriptionTableDelegate.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPointer>
+#include <QSize>
+#include <QStringList>
+#include <QTableView>
+
+class AudioManager;
+class CustomTableHeaderView;
+class CustomTextField;
+class Defaults;
+class NotificationCenter;
+class TranscriptionTableCellDelegate;
+class TranscriptionTableModel;
+
+// The table the learner types in: one row per segment, an optional column
+// with the segment number and a wide column with the typed text. The table
+// keeps its own copy of the texts; the current row has the one live text
+// field, the others are painted. Selecting a row tells the session controller
+// which segment to play.
+class TranscriptionTableView : public QTableView
+{
+    Q_OBJECT
+public:
+    // Reads the look from `defaults`, observes the look and the waveform's
+    // segment clicks on `center`, and asks `engine` for segment starts.
+    TranscriptionTableView(AudioManager& engine, NotificationCenter& center, Defaults& defaults,
+                           QWidget* parent = nullptr);
+    ~TranscriptionTableView() override;
+
+    // Replaces every row; on the next turn of the event loop row 0 is
+    // selected and takes the typing focus.
+    void updateTranscriptions(const QStringList& texts);
+    void updateTranscription(const QString& text, qint64 index);
+    // Selects a row from outside and scrolls it into view.
+    void setCurrentSegment(qint64 index);
+    // The transcript line of a row: "[mm:ss.mmm]text" at its segment's start.
+    QString generateLRCStringForText(const QString& text, qint64 index) const;
+    const QStringList& mutableTranscriptions() const;
+    void clearCache();
+
+    qint64 currentIndex() const { return m_currentIndex; }
+    qint64 currentEditingRow() const { return m_currentEditingRow; }
+    void setTranscriptionDelegate(TranscriptionTableDelegate* delegate);
+
+    // The live text field of a row (null when the row has none), and whether
+    // a widget is one: a key hook lets its shortcuts act while a row is typed in.
+    QWidget* editorForRow(qint64 row) const;
+    bool isDictationEditor(const QObject* widget) const;
+
+    QColor tableBackgroundColor() const { return m_tableBackgroundColor; }
+    QColor dictationTextColor() const { return m_dictationTextColor; }
+    QFont dictationTextFont() const { return m_dictationTextFont; }
+    bool showLineNumbers() const { return m_showLineNumbers; }
+    void setShowLineNumbers(bool show);
+
+    // The colour the segment numbers are drawn in over `color`; invalid for
+    // an invalid colour.
+    static QColor complementaryColorFor(const QColor& color);
+    // The size of the "Segment" title in `font`; the number column's width and
+    // the measure of row and header heights.
+    QSize getTableHeaderSegmentSize(const QFont& font) const;
+    int tableHeaderHeight() const { return m_tableHeaderHeight; }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void updateGeometries() override;
+
+private:
+    void initDisplaySetting();
+    void observeNotifications();
+    void initHeader();
+    void applyRowHeight();
+    void applyBackgroundColor();
+    void applyDictationTextColor();
+    void applyFont();
+
+    void selectionDidChange();
+    void selectSingleRow(int row);
+    void moveEditorToRow(int row);
+    void focusEditor(int row);
+    int rowCount() const;
+
+    AudioManager& m_engine;
+    NotificationCenter& m_center;
+    Defaults& m_defaults;
+
+    TranscriptionTableModel* m_model = nullptr;
+    TranscriptionTableCellDelegate* m_cellDelegate = nullptr;
+    CustomTableHeaderView* m_header = nullptr;
+    TranscriptionTableDelegate* m_transcriptionDelegate = nullptr;
+
+    QPointer<CustomTextField> m_editor;
+    int m_editorRow = -1;
+    qint64 m_currentIndex = -1;
+    qint64 m_currentEditingRow = -1;
+    bool m_reportSelection = true;
+    // Drops a deferred first-row selection that a newer load has overtaken.
+    quint64 m_loadGeneration = 0;
+
+    QColor m_tableBackgroundColor;
+    QColor m_dictationTextColor;
+    QFont m_dictationTextFont;
+    bool m_showLineNumbers = true;
+    int m_tableHeaderHeight = 0;
+};
