@@ -2,6 +2,7 @@
 
 #include "app/Dialogs.h"
 #include "app/MainWindowController.h"
+#include "app/MainWindowController.h"
 #include "app/ViewController.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
@@ -39,9 +40,15 @@ void AppDelegate::applicationDidFinishLaunching()
 bool AppDelegate::applicationOpenFile(const QString& path)
 {
     const QString local = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toLocalFile();
-    if (m_mainWindowController)
-        m_mainWindowController->viewController()->openFileFromPath(local);
+    if (ViewController* session = this->session())
+        session->openFileFromPath(local);
     return true;
+}
+
+ViewController* AppDelegate::session() const
+{
+    MainWindowController* window = m_mainWindowController.data();
+    return window ? window->viewController() : nullptr;
 }
 
 void AppDelegate::continueStartup()
@@ -57,8 +64,8 @@ void AppDelegate::setupApplicationDirectories()
 
 void AppDelegate::changeSize(int width, int height)
 {
-    if (m_mainWindowController)
-        m_mainWindowController->viewController()->resizeWindowToWidth(width, height);
+    if (ViewController* session = this->session())
+        session->resizeWindowToWidth(width, height);
 }
 
 QString AppDelegate::localizedHelpText()

@@ -7,6 +7,7 @@
 #include <QString>
 
 class MainWindowController;
+class ViewController;
 
 // The application-level commands: start-up, opening a file the desktop hands
 // over, help, the window-size presets. Everything about the open file goes to
@@ -35,6 +36,8 @@ public:
     MainWindowController* mainWindowController() const { return m_mainWindowController; }
 
 private:
+    ViewController* session() const;
+
     SessionServices m_services;
     QPointer<MainWindowController> m_mainWindowController;
 };

@@ -14,6 +14,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
@@ -171,6 +172,32 @@ void MainWindowController::cleanupAndClose()
     m_engine.closeAudioFile();
 }
 
+void MainWindowController::closePromptAnswered(bool save, bool dontSave)
+{
+    if (dontSave) {
+        m_closeConfirmed = true;
+        cleanupAndClose();
+        QTimer::singleShot(0, this, &QWidget::close);
+        return;
+    }
+    if (!save)
+        return; // Cancel: everything stays as it was
+    // The save's completion holds the window weakly.
+    QPointer<MainWindowController> self(this);
+    m_viewController->saveTranscriptionWithCompletion([self](bool saved) {
+        if (saved && !self.isNull())
+            QMetaObject::invokeMethod(self.data(), &MainWindowController::closeAfterSave,
+                                      Qt::QueuedConnection);
+    });
+}
+
+void MainWindowController::closeAfterSave()
+{
+    m_closeConfirmed = true;
+    cleanupAndClose();
+    close();
+}
+
 void MainWindowController::closeEvent(QCloseEvent* event)
 {
     if (m_closeConfirmed || m_engine.numberOfSegments() == 0) {
@@ -186,32 +213,15 @@ void MainWindowController::closeEvent(QCloseEvent* event)
     box->setText(LocalizedString(Texts::SaveDictationTitle));
     box->setInformativeText(LocalizedString(Texts::SaveDictationMessage));
     box->setObjectName(QStringLiteral("saveDictationPrompt"));
-    QPushButton* save = box->addButton(LocalizedString(Texts::Save), QMessageBox::AcceptRole);
+    // One role for all three keeps them in this order on every desktop style.
+    QPushButton* save = box->addButton(LocalizedString(Texts::Save), QMessageBox::ActionRole);
     QPushButton* dontSave =
-        box->addButton(LocalizedString(Texts::DontSave), QMessageBox::DestructiveRole);
-    QPushButton* cancel = box->addButton(LocalizedString(Texts::Cancel), QMessageBox::RejectRole);
+        box->addButton(LocalizedString(Texts::DontSave), QMessageBox::ActionRole);
+    QPushButton* cancel = box->addButton(LocalizedString(Texts::Cancel), QMessageBox::ActionRole);
     box->setDefaultButton(save);
     box->setEscapeButton(cancel);
     connect(box, &QMessageBox::finished, this, [this, box, save, dontSave] {
-        if (box->clickedButton() == dontSave) {
-            m_closeConfirmed = true;
-            cleanupAndClose();
-            QTimer::singleShot(0, this, &QWidget::close);
-        } else if (box->clickedButton() == save) {
-            QPointer<MainWindowController> self(this);
-            m_viewController->saveTranscriptionWithCompletion([self](bool saved) {
-                if (!saved || !self)
-                    return;
-                QMetaObject::invokeMethod(
-                    self,
-                    [self] {
-                        self->m_closeConfirmed = true;
-                        self->cleanupAndClose();
-                        self->close();
-                    },
-                    Qt::QueuedConnection);
-            });
-        }
+        closePromptAnswered(box->clickedButton() == save, box->clickedButton() == dontSave);
     });
     box->setWindowModality(Qt::WindowModal);
     box->open();

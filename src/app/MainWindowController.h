@@ -53,6 +53,8 @@ private:
     void setupMenus();
     void playStatusDidChange();
     void toolbarItemRepeat();
+    void closeAfterSave();
+    void closePromptAnswered(bool save, bool dontSave);
 
     AudioManager& m_engine;
     NotificationCenter& m_center;

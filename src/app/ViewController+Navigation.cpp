@@ -135,14 +135,11 @@ void ViewController::updateCurrentSegmentIndex()
         playNextSegment();
         if (m_pauseTimer)
             m_pauseTimer->deleteLater();
-        m_pauseTimer = new QTimer(this);
-        m_pauseTimer->setSingleShot(true);
-        QPointer<ViewController> self(this);
-        connect(m_pauseTimer, &QTimer::timeout, this, [self] {
-            if (self)
-                self->m_engine.pausePlayback();
-        });
-        m_pauseTimer->start(100);
+        auto* timer = new QTimer(this);
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, [this] { m_engine.pausePlayback(); });
+        timer->start(100);
+        m_pauseTimer = timer;
         return;
     }
     if (!m_waveformView->isHidden() &&
@@ -174,14 +171,12 @@ void ViewController::toggleRepeat(QAction* sender)
     const double left = (segment.start + segment.duration - now) / rate;
     if (m_playbackTimer)
         m_playbackTimer->deleteLater();
-    m_playbackTimer = new QTimer(this);
-    m_playbackTimer->setSingleShot(true);
-    QPointer<ViewController> self(this);
-    connect(m_playbackTimer, &QTimer::timeout, this, [self] {
-        if (self)
-            QMetaObject::invokeMethod(self, &ViewController::preparePlaySegment,
-                                      Qt::QueuedConnection);
+    auto* timer = new QTimer(this);
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, [this] {
+        QMetaObject::invokeMethod(this, &ViewController::preparePlaySegment, Qt::QueuedConnection);
     });
-    m_playbackTimer->start(static_cast<int>(std::max(0.0, left) * 1000.0));
+    timer->start(static_cast<int>(std::max(0.0, left) * 1000.0));
+    m_playbackTimer = timer;
     updateStatusBar();
 }

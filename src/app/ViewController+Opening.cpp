@@ -3,6 +3,7 @@
 
 #include "app/Dialogs.h"
 #include "app/LoadingIndicator.h"
+#include "app/RecentDocuments.h"
 #include "app/ViewController.h"
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
@@ -83,6 +84,7 @@ void ViewController::finishOpening(bool success, const QString& path)
             self->preparePlaySegment();
     });
     updateStatusBar();
+    RecentDocuments(m_defaults).add(path);
     if (m_openingFinished)
         m_openingFinished(success);
 }
@@ -133,11 +135,12 @@ void ViewController::openFile()
         audioFileExtensions(), [self = QPointer<ViewController>(this)](
                                    std::optional<QString> path,
                                    std::optional<Dialogs::FileSelectionError>) {
-            if (!self || !path)
+            if (self.isNull() || !path)
                 return;
             qInfo("file:%s", qUtf8Printable(*path));
-            self->m_currentAudioPath = *path;
-            self->handleSelectedFile(*path);
+            ViewController* session = self.data();
+            session->m_currentAudioPath = *path;
+            session->handleSelectedFile(*path);
         });
 }
 
@@ -147,34 +150,38 @@ void ViewController::handleSelectedFile(const QString& path)
     QPointer<ViewController> self(this);
     QThreadPool::globalInstance()->start([self, path] {
         const bool valid = isValidAudioFile(path);
+        // Back on the main thread; a window closed meanwhile hears nothing.
         QMetaObject::invokeMethod(
             qApp,
             [self, path, valid] {
-                if (!self)
-                    return;
-                if (self->m_loadsRunning == 0)
-                    self->hideLoadingIndicator();
-                if (!valid) {
-                    showError(LocalizedString(Texts::InvalidFileType),
-                              LocalizedString(Texts::SelectSupportedAudioFile));
-                    return;
-                }
-                const QFileInfo file(path);
-                if (!file.exists() || !file.isReadable()) {
-                    showError(LocalizedString(Texts::FileAccessError),
-                              QStringLiteral("The file “%1” could not be read.")
-                                  .arg(file.fileName()));
-                    return;
-                }
-                constexpr qint64 kLimitMB = 1024;
-                if (file.size() > kLimitMB * 1024 * 1024) {
-                    showError(LocalizedString(Texts::FileTooLarge),
-                              stringWithFormat(LocalizedString(Texts::SelectSmallerFile),
-                                               {QString::number(kLimitMB)}));
-                    return;
-                }
-                self->processAudioFile();
+                if (!self.isNull())
+                    self.data()->typeCheckFinished(path, valid);
             },
             Qt::QueuedConnection);
     });
+}
+
+void ViewController::typeCheckFinished(const QString& path, bool valid)
+{
+    if (m_loadsRunning == 0)
+        hideLoadingIndicator();
+    if (!valid) {
+        showError(LocalizedString(Texts::InvalidFileType),
+                  LocalizedString(Texts::SelectSupportedAudioFile));
+        return;
+    }
+    const QFileInfo file(path);
+    if (!file.exists() || !file.isReadable()) {
+        showError(LocalizedString(Texts::FileAccessError),
+                  QStringLiteral("The file “%1” could not be read.").arg(file.fileName()));
+        return;
+    }
+    constexpr qint64 kLimitMB = 1024;
+    if (file.size() > kLimitMB * 1024 * 1024) {
+        showError(LocalizedString(Texts::FileTooLarge),
+                  stringWithFormat(LocalizedString(Texts::SelectSmallerFile),
+                                   {QString::number(kLimitMB)}));
+        return;
+    }
+    processAudioFile();
 }

@@ -11,7 +11,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPointer>
 
 #include <QStringList>
 
@@ -85,16 +84,18 @@ void ViewController::saveTranscription()
     panel->setLabelText(QFileDialog::Accept, LocalizedString(Texts::Save));
     panel->selectFile(QFileInfo(m_currentAudioPath).completeBaseName() + QStringLiteral(".lrc"));
     panel->setWindowModality(Qt::WindowModal);
-    QPointer<ViewController> self(this);
-    connect(panel, &QFileDialog::fileSelected, this, [self](const QString& path) {
-        if (!self || path.isEmpty())
-            return;
-        self->stageTranscriptions(self->m_transcriptions);
-        if (self->m_transcriptions.saveTranscriptionsToFile(path))
-            self->saveTranscriptionToSandbox();
-        else
-            Dialogs::showMsg(LocalizedString(Texts::SaveError),
-                             LocalizedString(Texts::ErrorWritingToFile));
-    });
+    connect(panel, &QFileDialog::fileSelected, this, &ViewController::exportTranscriptionTo);
     panel->open();
+}
+
+void ViewController::exportTranscriptionTo(const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    stageTranscriptions(m_transcriptions);
+    if (m_transcriptions.saveTranscriptionsToFile(path))
+        saveTranscriptionToSandbox();
+    else
+        Dialogs::showMsg(LocalizedString(Texts::SaveError),
+                         LocalizedString(Texts::ErrorWritingToFile));
 }

@@ -223,17 +223,12 @@ void ViewController::showWaveViewHidden(bool hidden, bool animated)
     animateHeight(m_waveformContainer, m_waveformOpacity, m_heightWaveView, hidden, animated);
 }
 
-void ViewController::resizeWindowToWidth(int width, int height)
+QRect ViewController::frameKeepingCentre(const QRect& old, const QSize& size,
+                                        const QRect& visible)
 {
-    QWidget* window = this->window();
-    if (!window || window == this)
-        return;
-    const QRect old = window->geometry();
-    const QSize size(width, height);
-    QPoint origin(old.x() - (width - old.width()) / 2, old.y() - (height - old.height()) / 2);
-    QScreen* screen = window->screen();
-    const QRect visible = screen ? screen->availableGeometry() : QRect();
-    // Keep the window on the screen's visible area; its size is never reduced.
+    QPoint origin(old.x() - (size.width() - old.width()) / 2,
+                  old.y() - (size.height() - old.height()) / 2);
+    // Kept on the screen's visible area where it fits; the size is never reduced.
     auto keep = [](int start, int length, int visibleStart, int visibleLength) {
         if (start < visibleStart)
             return visibleStart;
@@ -241,9 +236,21 @@ void ViewController::resizeWindowToWidth(int width, int height)
             return visibleStart + visibleLength - length;
         return start;
     };
-    origin.setX(keep(origin.x(), width, visible.x(), visible.width()));
-    origin.setY(keep(origin.y(), height, visible.y(), visible.height()));
-    window->setGeometry(QRect(origin, size));
+    origin.setX(keep(origin.x(), size.width(), visible.x(), visible.width()));
+    origin.setY(keep(origin.y(), size.height(), visible.y(), visible.height()));
+    return QRect(origin, size);
+}
+
+void ViewController::resizeWindowToWidth(int width, int height)
+{
+    QWidget* window = this->window();
+    if (!window || window == this)
+        return;
+    QScreen* screen = window->screen();
+    const QRect frame = frameKeepingCentre(window->geometry(), QSize(width, height),
+                                           screen ? screen->availableGeometry() : QRect());
+    window->resize(frame.size());
+    window->move(frame.topLeft());
 }
 
 void ViewController::updateToolbarItemImagName(const QString& identifier, const QString& imageName)

@@ -40,6 +40,9 @@ public:
     void showStatusBarHidden(bool hidden, bool animated);
     void showWaveViewHidden(bool hidden, bool animated);
     void resizeWindowToWidth(int width, int height);
+    // Where a window of the new size goes: the same centre, kept on the
+    // visible area (an empty one when there is no screen).
+    static QRect frameKeepingCentre(const QRect& old, const QSize& size, const QRect& visible);
     void updateToolbarItemImagName(const QString& identifier, const QString& imageName);
 
     // ---- Opening (ViewController+Opening.cpp) ----
@@ -87,6 +90,7 @@ public:
     bool saveTranscriptionToSandbox();
     // Export through a save panel proposing "<audio name>.lrc".
     void saveTranscription();
+    void exportTranscriptionTo(const QString& path);
 
     // ---- Status bar and title (ViewController+StatusBar.cpp) ----
     void updateStatusBar();
@@ -113,6 +117,7 @@ private:
                        bool animated);
     void finishOpening(bool success, const QString& path);
     void showAnalysisProgress();
+    void typeCheckFinished(const QString& path, bool valid);
     void stageTranscriptions(TranscriptionManager& store) const;
 
     AudioManager& m_engine;

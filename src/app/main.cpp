@@ -3,6 +3,7 @@
 // "Open With" reaches it.
 
 #include "app/AppDelegate.h"
+#include "app/MainWindowController.h"
 #include "localization/LanguageManager.h"
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
@@ -11,6 +12,7 @@
 #include <QCommandLineParser>
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 
 int main(int argc, char* argv[])
 {
@@ -34,7 +36,7 @@ int main(int argc, char* argv[])
     // The default table font names a Mac font; here it stands for the
     // desktop's fixed-width font.
     QFont::insertSubstitution(QStringLiteral("Menlo"),
-                              QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+                              QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).family());
 
     // Every preference has its value before the first window reads one.
     regDefaultPreference(Defaults::standard());

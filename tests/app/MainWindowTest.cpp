@@ -22,6 +22,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <gtest/gtest.h>
 
@@ -105,8 +106,9 @@ TEST_P(FailedOpening, AlertsThenShowsWhatTheEngineHoldsAndStaysUsable)
     for (const bool afterAGoodFile : {false, true}) {
         SCOPED_TRACE(afterAGoodFile ? "after a good file" : "first");
         WindowHarness h;
-        if (afterAGoodFile)
+        if (afterAGoodFile) {
             ASSERT_TRUE(h.open(fixture("speech.wav")));
+        }
         AlertAnswerer answerer(QStringLiteral("OK"));
         bool success = true;
         ASSERT_TRUE(h.open(bad, &success));
@@ -132,8 +134,8 @@ TEST_P(FailedOpening, AlertsThenShowsWhatTheEngineHoldsAndStaysUsable)
 INSTANTIATE_TEST_SUITE_P(MainWindow, FailedOpening,
                          ::testing::Values(BadFile{"text.mp3"}, BadFile{"truncated.mp3"},
                                            BadFile{"empty.mp3"}),
-                         [](const auto& info) {
-                             return QFileInfo(info.param.name).baseName().toStdString();
+                         [](const ::testing::TestParamInfo<BadFile>& file) {
+                             return QFileInfo(file.param.name).baseName().toStdString();
                          });
 
 TEST(MainWindow, StatusBarTogglesAtOnceAndTheWaveformStripSlides)
@@ -163,14 +165,25 @@ TEST(MainWindow, StatusBarTogglesAtOnceAndTheWaveformStripSlides)
     EXPECT_DOUBLE_EQ(effect->opacity(), 1.0);
 }
 
-TEST(MainWindow, APresetLargerThanTheScreenKeepsItsSizeAndStartsAtTheVisibleEdge)
+TEST(MainWindow, SizePresetsKeepTheCentreAndStayOnTheVisibleArea)
 {
+    const QRect screen(0, 0, 1920, 1080);
+    // Room enough: the centre stays where it was.
+    EXPECT_EQ(ViewController::frameKeepingCentre({400, 200, 1000, 600}, {1280, 800}, screen),
+              QRect(260, 100, 1280, 800));
+    // Larger than the screen: the origin moves to the visible start, the size stays.
+    EXPECT_EQ(ViewController::frameKeepingCentre({400, 200, 1000, 600}, {2560, 1600}, screen),
+              QRect(0, 0, 2560, 1600));
+    // Near the far edge: moved back so that its end meets the visible end.
+    EXPECT_EQ(ViewController::frameKeepingCentre({1500, 700, 400, 300}, {1280, 800}, screen),
+              QRect(640, 280, 1280, 800));
+    // No screen at all: an empty visible area.
+    EXPECT_EQ(ViewController::frameKeepingCentre({10, 10, 100, 100}, {200, 200}, QRect()),
+              QRect(0, 0, 200, 200));
+
     WindowHarness h;
-    const QRect visible = h.window().screen()->availableGeometry();
-    h.session().resizeWindowToWidth(visible.width() + 400, visible.height() + 300);
-    const QRect frame = h.window().geometry();
-    EXPECT_EQ(frame.size(), QSize(visible.width() + 400, visible.height() + 300));
-    EXPECT_EQ(frame.topLeft(), visible.topLeft());
+    h.session().resizeWindowToWidth(1440, 900);
+    EXPECT_EQ(h.window().size(), QSize(1440, 900));
 }
 
 TEST(ClosePrompt, WithNoFileOpenTheWindowClosesAtOnce)

@@ -19,6 +19,7 @@
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
@@ -26,7 +27,7 @@
 WindowHarness::WindowHarness(const QString& language)
 {
     QFont::insertSubstitution(QStringLiteral("Menlo"),
-                              QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+                              QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).family());
     regDefaultPreference(m_defaults.store());
     m_center = std::make_unique<NotificationCenter>();
     m_documents = std::make_unique<DocumentManager>(m_documentsDir.path());

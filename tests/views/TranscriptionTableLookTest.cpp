@@ -167,7 +167,7 @@ TEST(TranscriptionTableColors, ComplementaryColorInvertsComponentsAndKeepsAlpha)
     EXPECT_FALSE(c(QColor()).isValid());
 }
 
-TEST_F(TranscriptionTableLook, Screenshot)
+TEST_F(TranscriptionTableLook, TheEditedRowIsBlackWithABlueCaret)
 {
     makeTable({720, 520});
     QStringList texts;
@@ -184,6 +184,10 @@ TEST_F(TranscriptionTableLook, Screenshot)
                       cellRect(3, 0).center() - table->viewport()->geometry().topLeft());
     QTest::keyClicks(editor, "and warm in the sou");
     const QImage image = render();
+    // The row being typed in: black text and the blue caret.
+    EXPECT_GT(countNear(image, cellRect(3, 1), Qt::black, 30), 20);
+    EXPECT_GT(countNear(image, cellRect(3, 1), QColor(0, 122, 255), 30), 8);
+    EXPECT_EQ(countNear(image, cellRect(3, 1), kDefaultText, 30), 0);
     QDir().mkpath(KELMORA_SCREENSHOT_DIR);
     ASSERT_TRUE(image.save(QStringLiteral(KELMORA_SCREENSHOT_DIR "/table.png")));
 }

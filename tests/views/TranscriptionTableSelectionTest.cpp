@@ -94,9 +94,13 @@ TEST_F(TranscriptionTableSelection, WaveformClickSelectsAndScrollsToTheSegment)
     EXPECT_EQ(delegate.heard, (QList<qint64>{25, 5}));
     EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->model()->index(5, 1))));
 
+    center.post(Notifications::MouseDownSelectSegment, qint64(39));
+    EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->model()->index(39, 1))))
+        << "the last row comes fully into view above the bottom room";
+
     center.post(Notifications::MouseDownSelectSegment, QStringLiteral("7"));
     center.post(Notifications::MouseDownSelectSegment, qint64(99));
-    EXPECT_EQ(delegate.heard, (QList<qint64>{25, 5})) << "a wrong object or row is ignored";
+    EXPECT_EQ(delegate.heard, (QList<qint64>{25, 5, 39})) << "a wrong object or row is ignored";
 }
 
 TEST_F(TranscriptionTableSelection, AClickAnywhereInARowPutsTheCaretInItsEditor)
