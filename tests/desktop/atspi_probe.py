@@ -11,12 +11,15 @@ the way a screen reader would. Usage:
 Exits 1 with a message when what it looks for does not appear in 20 s."""
 
 import sys
+import warnings
 import time
 
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
+
+warnings.filterwarnings("ignore", category=DeprecationWarning)
 
 TIMEOUT = 20.0
 POLL = 0.2

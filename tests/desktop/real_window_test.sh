@@ -90,7 +90,8 @@ done
 echo "heard: peak amplitude $peak"
 
 # Typing goes into row 0.
-xdotool search --sync --name "^$title\$" windowactivate --sync > /dev/null 2>&1 || true
+window="$(xdotool search --sync --name "^$title\$" | head -n1)"
+xdotool windowfocus --sync "$window"
 xdotool type --delay 30 "Good morning"
 typed=""
 for _ in $(seq 25); do
@@ -109,9 +110,13 @@ mkdir -p "$shots"
 xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
 ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/real-window.png"
 
-# Closing asks whether to save; "Don't Save" ends the program.
+# Closing asks whether to save; "Don't Save" ends the program. The prompt
+# opens with "Save" as its default button; Tab moves to "Don't Save".
 xdotool key --clearmodifiers ctrl+q
-probe press "Don't Save" > /dev/null || fail "no close prompt"
+prompt="$(timeout 20 xdotool search --sync --name "^Save Dictation\?\$" | head -n1)" ||
+  fail "no close prompt"
+xdotool windowfocus --sync "$prompt"
+xdotool key Tab space
 for _ in $(seq 50); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
 if kill -0 "$app" 2>/dev/null; then fail "kelmora still runs after Don't Save"; fi
 status=0
