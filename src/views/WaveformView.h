@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointF>
 #include <QPointer>
+#include <QRectF>
 #include <QStaticText>
 #include <QTransform>
 #include <QWidget>
@@ -134,5 +135,6 @@ private:
     // Envelope points, kept between paints so that a repaint allocates nothing.
     std::vector<QPointF> m_upperPoints;
     std::vector<QPointF> m_lowerPoints;
+    std::vector<QRectF> m_boxes; // the envelope's strokes, when wider than a pixel
     bool m_painting = false;
 };
