@@ -200,7 +200,7 @@ void MainWindowController::closeAfterSave()
 
 void MainWindowController::closeEvent(QCloseEvent* event)
 {
-    if (m_closeConfirmed || m_engine.numberOfSegments() == 0) {
+    if (m_closeConfirmed || !m_viewController->hasSegmentsShown()) {
         cleanupAndClose();
         event->accept();
         return;

@@ -70,6 +70,7 @@ void ViewController::finishOpening(bool success, const QString& path)
     qInfo("File name with extension: %s", qUtf8Printable(file.fileName()));
     changeWindowTitle(file.completeBaseName());
 
+    m_segmentsShown = m_engine.numberOfSegments();
     m_waveformView->updateWithSegments(m_engine.segments());
     m_waveformView->updateWaveformData(m_engine.waveformData());
     m_waveformView->updateContentWidth();

@@ -56,6 +56,9 @@ public:
     // Runs the engine on currentAudioPath() on a worker, then shows the result.
     void processAudioFile();
     bool isProcessing() const { return m_loadsRunning > 0; }
+    // Whether the window shows a file with segments (read without touching
+    // the engine, which a running analysis may be rewriting).
+    bool hasSegmentsShown() const { return m_segmentsShown > 0; }
     // Called with the outcome after each opening has been shown (tests, the shell).
     void setOpeningFinishedHandler(std::function<void(bool success)> handler);
     void showLoadingIndicator();
@@ -152,5 +155,6 @@ private:
     // touched from here while one runs.
     std::unique_ptr<QThreadPool> m_analysisQueue;
     int m_loadsRunning = 0;
+    qsizetype m_segmentsShown = 0;
     std::function<void(bool)> m_openingFinished;
 };

@@ -52,7 +52,7 @@ void WaveformView::paintEvent(QPaintEvent* event)
     Frame f;
     f.width = width();
     f.height = height();
-    f.duration = m_engine.getTotalDuration();
+    f.duration = m_totalDuration;
     f.extent = std::min(f.width, f.duration * m_pixelsPerSecond);
     const QRectF visible = visibleRect();
     f.visibleX = visible.x();
@@ -126,8 +126,11 @@ void WaveformView::drawWaveform(QPainter& painter, const Frame& f)
     const double perPoint = double(n) / f.extent; // columns per point of x
     const qint64 fromColumn = qint64(std::floor(f.dirtyLeft * perPoint));
     const qint64 toColumn = qint64(std::ceil(f.dirtyRight * perPoint));
-    const qint64 kFrom = std::max<qint64>(0, (fromColumn - first) / step - 1);
-    const qint64 kTo = (toColumn - first) / step + 2;
+    // Neighbours a line's width away still touch the span.
+    const double spacing = double(step) * f.extent / double(n);
+    const qint64 margin = 2 + qint64(std::ceil(f.scale * 0.5 / std::max(spacing, 1e-9)));
+    const qint64 kFrom = std::max<qint64>(0, (fromColumn - first) / step - margin);
+    const qint64 kTo = (toColumn - first) / step + margin;
 
     m_upperPoints.clear();
     m_lowerPoints.clear();
@@ -142,12 +145,41 @@ void WaveformView::drawWaveform(QPainter& painter, const Frame& f)
     }
     if (m_upperPoints.empty())
         return;
-    QPen pen(NamedColors::systemGreen(), f.scale);
-    pen.setCapStyle(Qt::FlatCap);
-    pen.setJoinStyle(Qt::BevelJoin);
-    painter.setPen(pen);
-    painter.drawPolyline(m_upperPoints.data(), int(m_upperPoints.size()));
-    painter.drawPolyline(m_lowerPoints.data(), int(m_lowerPoints.size()));
+    const double lineWidth = f.scale; // in points
+    if (lineWidth * f.scale <= 1.0) {
+        // One device pixel wide: Qt's thin-line path draws this fastest.
+        QPen pen(NamedColors::systemGreen(), lineWidth);
+        pen.setCapStyle(Qt::FlatCap);
+        painter.setPen(pen);
+        painter.drawPolyline(m_upperPoints.data(), int(m_upperPoints.size()));
+        painter.drawPolyline(m_lowerPoints.data(), int(m_lowerPoints.size()));
+        return;
+    }
+    // Wider lines: Qt's stroker takes hundreds of milliseconds over a jagged
+    // polyline of thousands of points. The points are about a device pixel
+    // apart, so each segment's stroke is, to the pixel, the box around it
+    // grown by half the line width; fill those boxes instead.
+    auto boxes = [half = lineWidth * 0.5](const std::vector<QPointF>& points,
+                                          std::vector<QRectF>& out) {
+        out.clear();
+        if (points.size() == 1)
+            out.emplace_back(points[0].x() - half, points[0].y() - half, 2 * half, 2 * half);
+        for (std::size_t j = 0; j + 1 < points.size(); ++j) {
+            const QPointF& a = points[j];
+            const QPointF& b = points[j + 1];
+            const double low = std::min(a.y(), b.y());
+            const double high = std::max(a.y(), b.y());
+            out.emplace_back(a.x() - half, low - half, b.x() - a.x() + 2 * half,
+                             high - low + 2 * half);
+        }
+    };
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(NamedColors::systemGreen());
+    boxes(m_upperPoints, m_boxes);
+    painter.drawRects(m_boxes.data(), int(m_boxes.size()));
+    boxes(m_lowerPoints, m_boxes);
+    painter.drawRects(m_boxes.data(), int(m_boxes.size()));
+    painter.setBrush(Qt::NoBrush);
 }
 
 void WaveformView::drawBoundaries(QPainter& painter, const Frame& f) const

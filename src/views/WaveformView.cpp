@@ -51,6 +51,9 @@ WaveformView::~WaveformView()
 
 void WaveformView::updateWithSegments(const SegmentList& segments)
 {
+    // The engine's duration is read with its segments: a later analysis
+    // rewrites it on a worker while the strip still shows this file.
+    m_totalDuration = m_engine.getTotalDuration();
     m_segments = segments;
     m_lineNumberCache.clear();
     m_currentSegmentIndex = -1;
@@ -111,14 +114,15 @@ void WaveformView::updateViewWidth()
 {
     double w = superviewWidth();
     if (!m_waveformData.isEmpty())
-        w = std::max(w, m_pixelsPerSecond * m_engine.getTotalDuration());
+        w = std::max(w, m_pixelsPerSecond * m_totalDuration);
     resize(static_cast<int>(std::ceil(w)), followedHeight());
     update();
 }
 
 void WaveformView::updateContentWidth()
 {
-    const double w = std::max(superviewWidth(), m_engine.getTotalDuration() * m_pixelsPerSecond);
+    m_totalDuration = m_engine.getTotalDuration();
+    const double w = std::max(superviewWidth(), m_totalDuration * m_pixelsPerSecond);
     resize(static_cast<int>(std::ceil(w)), followedHeight());
     updateLineNumbers();
 }

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointF>
 #include <QPointer>
+#include <QRectF>
 #include <QStaticText>
 #include <QTransform>
 #include <QWidget>
@@ -119,6 +120,7 @@ private:
     SegmentList m_segments;
     qint64 m_currentSegmentIndex = -1;
     QList<float> m_waveformData;
+    double m_totalDuration = 0.0; // D, as of the segments shown
     double m_pixelsPerSecond = 20.0;
     double m_currentPlaybackPosition = 0.0;
     double m_lastPlaybackPosition = 0.0;
@@ -134,5 +136,6 @@ private:
     // Envelope points, kept between paints so that a repaint allocates nothing.
     std::vector<QPointF> m_upperPoints;
     std::vector<QPointF> m_lowerPoints;
+    std::vector<QRectF> m_boxes; // the envelope's strokes, when wider than a pixel
     bool m_painting = false;
 };
