@@ -153,16 +153,16 @@ TEST(MainWindow, StatusBarTogglesAtOnceAndTheWaveformStripSlides)
     h.center().post(Notifications::ShowAudioWaveDidChange, false);
     EXPECT_TRUE(h.session().waveformView()->isHidden());
     EXPECT_GT(strip->maximumHeight(), 0); // still sliding
-    ASSERT_TRUE(waitFor([&] { return strip->maximumHeight() == 0; }, 2000));
     auto* effect = qobject_cast<QGraphicsOpacityEffect*>(strip->graphicsEffect());
     ASSERT_NE(effect, nullptr);
-    EXPECT_DOUBLE_EQ(effect->opacity(), 0.0);
+    ASSERT_TRUE(waitFor(
+        [&] { return strip->maximumHeight() == 0 && effect->opacity() == 0.0; }, 2000));
 
     h.center().post(Notifications::ShowAudioWaveDidChange, true);
     h.center().post(Notifications::ShowStatusBarDidChange, true);
     EXPECT_FALSE(status->isHidden());
-    ASSERT_TRUE(waitFor([&] { return strip->height() == stripHeight; }, 2000));
-    EXPECT_DOUBLE_EQ(effect->opacity(), 1.0);
+    ASSERT_TRUE(waitFor(
+        [&] { return strip->height() == stripHeight && effect->opacity() == 1.0; }, 2000));
 }
 
 TEST(MainWindow, SizePresetsKeepTheCentreAndStayOnTheVisibleArea)
@@ -240,8 +240,9 @@ TEST(ClosePrompt, SaveWritesTheChosenTranscriptThenCloses)
     QObject::connect(&panelAnswer, &QTimer::timeout, [&] {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             auto* panel = qobject_cast<QFileDialog*>(widget);
+            // Tried again on every tick until the panel takes it: a panel
+            // still listing its folder may not accept at once.
             if (panel && panel->isVisible()) {
-                panelAnswer.stop();
                 panel->selectFile(chosen);
                 QMetaObject::invokeMethod(panel, &QDialog::accept, Qt::QueuedConnection);
             }
