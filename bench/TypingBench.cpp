@@ -7,6 +7,7 @@
 // Usage: typing_bench [ROWS]
 
 #include "BenchSupport.h"
+#include "WindowBenchSupport.h"
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "preferences/DefaultPreferences.h"
@@ -117,8 +118,7 @@ void reportTyping(const char* label, TranscriptionTableView& table)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Bench::offscreenByDefault();
     QApplication app(argc, argv);
     const int rows = argc > 1 ? std::max(1, atoi(argv[1])) : 700;
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);

@@ -9,6 +9,7 @@
 // Usage: waveform_bench [LESSON]
 
 #include "BenchSupport.h"
+#include "WindowBenchSupport.h"
 #include "audio/AudioManager.h"
 #include "audio/NullAudioOutput.h"
 #include "common/NotificationCenter.h"
@@ -66,14 +67,9 @@ template <typename Paint> Figures timeIt(Paint paint)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Bench::offscreenByDefault();
     QApplication app(argc, argv);
-    // The engine lists every segment it cuts; only the figures matter here.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
-        if (type != QtInfoMsg && type != QtDebugMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(message));
-    });
+    Bench::quietEngineLog();
 
     QString path;
     if (argc > 1) {

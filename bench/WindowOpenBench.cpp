@@ -9,6 +9,7 @@
 // Usage: window_open_bench [RUNS] (default 3)
 
 #include "BenchSupport.h"
+#include "WindowBenchSupport.h"
 #include "app/MainWindowController.h"
 #include "app/SessionServices.h"
 #include "app/ViewController.h"
@@ -105,13 +106,9 @@ Opening openOnce(const QString& file)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Bench::offscreenByDefault();
     QApplication app(argc, argv);
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
-        if (type != QtInfoMsg && type != QtDebugMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(message));
-    });
+    Bench::quietEngineLog();
     const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 3;
     std::printf("Preparing a 60-minute 128 kbps speech MP3...\n");
     std::fflush(stdout);
