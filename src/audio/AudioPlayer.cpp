@@ -18,6 +18,8 @@ std::unique_ptr<AudioPlayer>
 AudioPlayer::create(const QString& path, std::unique_ptr<AudioOutput> output, QString* error)
 {
     auto decoder = std::make_unique<AudioDecoder>();
+    // The producer converts each frame straight to the device's layout.
+    decoder->setConformFrames(false);
     if (!decoder->open(path) || !decoder->openCodec()) {
         if (error)
             *error = decoder->errorString();
@@ -88,6 +90,13 @@ bool AudioPlayer::prepareToPlay()
 bool AudioPlayer::play()
 {
     prepareToPlay();
+    if (m_spanEnd >= 0.0 && !m_spanFresh) {
+        // Plain play after a span: on from where it stands, without the bound.
+        const double from = currentTime();
+        m_spanEnd = -1.0;
+        setCurrentTime(from);
+    }
+    m_spanFresh = false;
     m_playing = true;
     m_audible.store(true, std::memory_order_release);
     m_producer->setPlaying(true);
@@ -120,11 +129,29 @@ double AudioPlayer::currentTime() const
 
 void AudioPlayer::setCurrentTime(double seconds)
 {
+    setCurrentTime(seconds, -1.0);
+    m_spanFresh = false;
+}
+
+void AudioPlayer::setCurrentTime(double seconds, double end)
+{
     const double target = std::clamp(seconds, 0.0, std::max(m_duration, 0.0));
     m_floor = target;
+    m_spanEnd = end >= 0.0 ? std::max(end, target) : -1.0;
+    m_spanFresh = m_spanEnd >= 0.0;
     ++m_seekNumber;
     m_wantedSeek.store(m_seekNumber, std::memory_order_release);
-    m_producer->requestSeek(target, m_seekNumber);
+    m_producer->requestSeek(target, m_seekNumber, m_spanEnd);
+}
+
+double AudioPlayer::secondsUntilHanded(double sourceSeconds) const
+{
+    const FrameTag handed = m_handed.load();
+    if (!m_playing || handed.seek != m_seekNumber || m_format.sampleRate <= 0)
+        return 0.0;
+    const double rate = m_enableRate ? static_cast<double>(m_rate) : 1.0;
+    const double left = sourceSeconds - handed.position - 1.0 / m_format.sampleRate;
+    return std::max(left / rate, 0.0);
 }
 
 void AudioPlayer::setEnableRate(bool enable)

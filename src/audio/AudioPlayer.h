@@ -49,6 +49,14 @@ public:
     double currentTime() const;
     // Moves to `seconds`; the next sound heard is the sample at that time.
     void setCurrentTime(double seconds);
+    // As above, and the play() that follows stops handing out sound at `end`
+    // (source seconds): the device is never given audio beyond the span. A
+    // later play() without a new span plays on from where it stands.
+    void setCurrentTime(double seconds, double end);
+    // Wall seconds until the device will have taken every frame before
+    // `sourceSeconds` at the present rate; 0 when it has, or when it has not
+    // yet taken anything since the last move.
+    double secondsUntilHanded(double sourceSeconds) const;
 
     // The rate is applied only while rate control is enabled.
     void setEnableRate(bool enable);
@@ -95,7 +103,9 @@ private:
     bool m_enableRate = false;
     float m_rate = 1.0f;
     uint32_t m_seekNumber = 0;
-    double m_floor = 0.0; // currentTime() never reports less until the device moves on
+    double m_spanEnd = -1.0;  // where the current span stops, or -1
+    bool m_spanFresh = false; // set by setCurrentTime(seconds, end), taken by play()
+    double m_floor = 0.0;     // currentTime() never reports less until the device moves on
 
     // Read by the device callback.
     std::atomic<bool> m_audible{false};
