@@ -195,11 +195,15 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
                              m_wantedSeek.load(std::memory_order_acquire), &last);
         if (copied > 0)
             m_handed.store(last);
-        // Ran dry in the middle of the sound (not before its first frame).
-        if (copied < frames && m_handedSeek == m_wantedSeek.load(std::memory_order_relaxed))
+        // A gap inside the sound: the ring ran dry after the first frame and
+        // more of the same sound came later. The end of a span or of the file
+        // also reads short, but nothing follows it.
+        const uint32_t wanted = m_wantedSeek.load(std::memory_order_relaxed);
+        if (copied > 0 && m_ranDry && last.seek == m_handedSeek)
             m_shortReads.fetch_add(1, std::memory_order_relaxed);
         if (copied > 0)
             m_handedSeek = last.seek;
+        m_ranDry = copied < frames && m_handedSeek == wanted;
     } else {
         m_ring.skipStale();
     }

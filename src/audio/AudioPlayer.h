@@ -72,8 +72,8 @@ public:
     // first frame after the last seek entered the ring.
     FrameTag handedFrame() const { return m_handed.load(); }
     uint32_t seekNumber() const { return m_seekNumber; }
-    // How often the device found the ring empty while sound was playing (the
-    // end of the file counts once).
+    // How often the sound had a gap: the device found the ring empty and more
+    // of the same sound followed (the end of a span or of the file is not one).
     int shortReads() const { return m_shortReads.load(std::memory_order_relaxed); }
     PlaybackProducer::SeekTiming lastSeekTiming() const { return m_producer->lastSeekTiming(); }
 
@@ -112,5 +112,6 @@ private:
     std::atomic<uint32_t> m_wantedSeek{0};
     std::atomic<int> m_shortReads{0};
     uint32_t m_handedSeek = 0; // device callback only
+    bool m_ranDry = false;     // device callback only
     std::atomic<float> m_volume{1.0f};
 };

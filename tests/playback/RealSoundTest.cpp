@@ -15,6 +15,8 @@
 #include <complex>
 #include <functional>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 using TestSupport::fixture;
 
@@ -98,6 +100,8 @@ void runEventsFor(int ms)
 
 constexpr double kCaptureRate = 48000.0;
 constexpr double kHeardTolerance = 0.015;
+// Takes of one measurement before a fault is taken to be the engine's.
+constexpr int kAttempts = 6;
 
 // Stretches of sound in a recording, split where digital silence lasts longer
 // than 1 ms (the played file never falls silent: it has a noise floor).
@@ -141,6 +145,7 @@ struct Take
 {
     QString error;
     std::vector<float> capture;
+    int starved = 0; // times the device found the player's ring empty mid-sound
     double lagSeconds = 0, coefficient = 0, firstSound = 0, lastSound = 0, heard = 0;
 
     void measure(const std::vector<float>& reference, double expected)
@@ -162,7 +167,7 @@ struct Take
     }
     bool clean() const
     {
-        return coefficient > 0.98 && std::fabs(firstSound - lagSeconds) <= 0.002 &&
+        return starved == 0 && coefficient > 0.98 && std::fabs(firstSound - lagSeconds) <= 0.002 &&
                std::fabs(heard - m_expected) <= kHeardTolerance;
     }
 
@@ -172,10 +177,11 @@ private:
 
 // Records the engine while `play` starts it, until `over` says so (or a
 // deadline passes), then while the device plays out what it holds.
-Take record(PulseServer& pulse, double seconds, const std::function<void()>& play,
-            const std::function<bool()>& over)
+Take record(PulseServer& pulse, AudioPlayer& player, double seconds,
+            const std::function<void()>& play, const std::function<bool()>& over)
 {
     Take take;
+    const int shortReads = player.shortReads();
     if (!pulse.startRecording(&take.error))
         return take;
     runEventsFor(300);
@@ -186,6 +192,7 @@ Take record(PulseServer& pulse, double seconds, const std::function<void()>& pla
         TestSupport::processEvents();
     runEventsFor(700); // the device plays out what it holds, the recorder takes it
     take.capture = pulse.stopRecording();
+    take.starved = player.shortReads() - shortReads;
     if (!over())
         take.error = QStringLiteral("the segment never ended");
     else if (take.capture.size() < size_t(seconds * kCaptureRate))
@@ -198,7 +205,16 @@ class RealSound : public ::testing::Test
 protected:
     // One server for the process: Qt's sound system keeps to the server it
     // first found.
-    static void SetUpTestSuite() { s_pulse = PulseServer::start(&s_whyNot); }
+    static void SetUpTestSuite()
+    {
+        // A player starved by other work on the machine leaves gaps that say
+        // nothing about the engine; as root, this process (the threads it
+        // starts from here on) is given the precedence the server and the
+        // recorder get.
+        if (::geteuid() == 0)
+            ::setpriority(PRIO_PROCESS, 0, -10);
+        s_pulse = PulseServer::start(&s_whyNot);
+    }
     static void TearDownTestSuite() { s_pulse.reset(); }
 
     void SetUp() override
@@ -260,18 +276,19 @@ protected:
         engine->setPlaybackRate(rate);
         engine->setRepeatMode(true);
         // A recording on a machine shared with other work can have a gap or
-        // lose a stretch (the server or the recorder was not scheduled in
-        // time), which no player can prevent; such a take is repeated. A
+        // lose a stretch (the server, the recorder or the decode thread was
+        // not scheduled in time; the player counts the times its ring ran
+        // dry), which no player can prevent; such a take is repeated. A
         // fault of the engine shows in every take.
         Take take;
-        for (int attempt = 1; attempt <= 4; ++attempt) {
+        for (int attempt = 1; attempt <= kAttempts; ++attempt) {
             bool over = false;
             engine->setPlaybackCompletionHandler([&] {
                 engine->stopPlayback();
                 over = true;
             });
             take = record(
-                *pulse, expected,
+                *pulse, *engine->audioPlayer(), expected,
                 [&] {
                     engine->setCurrentSegmentIndex(-1);
                     engine->playSegmentAtIndex(index);
@@ -281,9 +298,10 @@ protected:
                 break;
             take.measure(ref, expected);
             std::printf("segment %lld, rate %.1f, take %d: found at %.3f s (r=%.4f), sound from "
-                        "%.3f to %.3f s, %.3f s heard of %.3f s\n",
+                        "%.3f to %.3f s, %.3f s heard of %.3f s, %d underruns\n",
                         static_cast<long long>(index), double(rate), attempt, take.lagSeconds,
-                        take.coefficient, take.firstSound, take.lastSound, take.heard, expected);
+                        take.coefficient, take.firstSound, take.lastSound, take.heard, expected,
+                        take.starved);
             if (take.clean())
                 break;
         }
@@ -329,7 +347,7 @@ TEST_F(RealSound, RepetitionsRestartAtTheFirstSampleWithShortGaps)
     engine->setRepeatMode(true);
     std::vector<Sound> runs;
     Take take;
-    for (int attempt = 1; attempt <= 4; ++attempt) {
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         int plays = 0;
         bool over = false;
         engine->setPlaybackCompletionHandler([&] {
@@ -340,7 +358,7 @@ TEST_F(RealSound, RepetitionsRestartAtTheFirstSampleWithShortGaps)
                 over = true;
         });
         take = record(
-            *pulse, 3 * length,
+            *pulse, *engine->audioPlayer(), 3 * length,
             [&] {
                 engine->setCurrentSegmentIndex(-1);
                 engine->playSegmentAtIndex(index);
@@ -356,10 +374,10 @@ TEST_F(RealSound, RepetitionsRestartAtTheFirstSampleWithShortGaps)
                 worstGap = std::max(worstGap, runs[i].from - runs[i - 1].to);
         }
         std::printf("take %d: %zu stretches of sound, %.3f s heard of %.3f s, longest gap "
-                    "%.3f s\n",
-                    attempt, runs.size(), heard, 3 * length, worstGap);
-        if (runs.size() <= 3 && std::fabs(heard - 3 * length) <= 3 * kHeardTolerance &&
-            worstGap <= 0.05)
+                    "%.3f s, %d underruns\n",
+                    attempt, runs.size(), heard, 3 * length, worstGap, take.starved);
+        if (take.starved == 0 && runs.size() <= 3 &&
+            std::fabs(heard - 3 * length) <= 3 * kHeardTolerance && worstGap <= 0.05)
             break;
     }
     ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
@@ -409,11 +427,11 @@ TEST_F(RealSound, OutsideRepeatModePlaybackRunsThroughTheBoundaryWithoutAGap)
     const std::vector<float> across = reference(start, length + 0.5, 1.0f);
     Take take;
     std::vector<Sound> runs;
-    for (int attempt = 1; attempt <= 4; ++attempt) {
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         boundary = false;
         QElapsedTimer after;
         take = record(
-            *pulse, length + 0.6,
+            *pulse, *engine->audioPlayer(), length + 0.6,
             [&] {
                 engine->setCurrentSegmentIndex(-1);
                 engine->playSegmentAtIndex(index);
@@ -431,9 +449,9 @@ TEST_F(RealSound, OutsideRepeatModePlaybackRunsThroughTheBoundaryWithoutAGap)
             break;
         take.measure(across, length + 0.5);
         runs = soundRuns(take.capture);
-        std::printf("take %d: %zu stretches of sound, boundary audio r=%.4f\n", attempt,
-                    runs.size(), take.coefficient);
-        if (runs.size() == 1 && take.coefficient > 0.98)
+        std::printf("take %d: %zu stretches of sound, boundary audio r=%.4f, %d underruns\n",
+                    attempt, runs.size(), take.coefficient, take.starved);
+        if (take.starved == 0 && runs.size() == 1 && take.coefficient > 0.98)
             break;
     }
     ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
