@@ -122,7 +122,7 @@ double AudioPlayer::currentTime() const
     const FrameTag handed = m_handed.load();
     if (!m_playing || handed.seek != m_seekNumber)
         return m_floor;
-    const double rate = m_enableRate ? static_cast<double>(m_rate) : 1.0;
+    const double rate = static_cast<double>(m_appliedRate);
     const double heard = handed.position - m_output->latency() * rate;
     return std::max(heard, m_floor);
 }
@@ -137,6 +137,7 @@ void AudioPlayer::setCurrentTime(double seconds, double end)
 {
     const double target = std::clamp(seconds, 0.0, std::max(m_duration, 0.0));
     m_floor = target;
+    m_target = target;
     m_spanEnd = end >= 0.0 ? std::max(end, target) : -1.0;
     m_spanFresh = m_spanEnd >= 0.0;
     ++m_seekNumber;
@@ -149,7 +150,7 @@ double AudioPlayer::secondsUntilHanded(double sourceSeconds) const
     const FrameTag handed = m_handed.load();
     if (!m_playing || handed.seek != m_seekNumber || m_format.sampleRate <= 0)
         return 0.0;
-    const double rate = m_enableRate ? static_cast<double>(m_rate) : 1.0;
+    const double rate = static_cast<double>(m_appliedRate);
     const double left = sourceSeconds - handed.position - 1.0 / m_format.sampleRate;
     return std::max(left / rate, 0.0);
 }
@@ -168,7 +169,22 @@ void AudioPlayer::setRate(float rate)
 
 void AudioPlayer::applyRate()
 {
-    m_producer->requestRate(m_enableRate ? m_rate : 1.0f);
+    const float rate = m_enableRate ? m_rate : 1.0f;
+    if (rate == m_appliedRate)
+        return;
+    // Nothing made at the old rate may be handed out once the rate is set:
+    // the change gets a seek number of its own (the device stops taking the
+    // old frames at once), and the sound goes on from the frame the device
+    // took last, or from where the last move asked for if it took none.
+    m_floor = currentTime();
+    ++m_seekNumber;
+    m_wantedSeek.store(m_seekNumber, std::memory_order_release);
+    const FrameTag handed = m_handed.load();
+    if (handed.seek == m_seekNumber - 1 && m_format.sampleRate > 0)
+        m_target = handed.position + 1.0 / m_format.sampleRate;
+    m_appliedRate = rate;
+    m_producer->requestRate(rate);
+    m_producer->requestSeek(m_target, m_seekNumber, m_spanEnd);
 }
 
 void AudioPlayer::setVolume(float volume)

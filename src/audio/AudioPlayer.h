@@ -102,6 +102,8 @@ private:
     bool m_playing = false;
     bool m_enableRate = false;
     float m_rate = 1.0f;
+    float m_appliedRate = 1.0f; // what the decode thread was last asked for
+    double m_target = 0.0;      // where the sound of the present seek number starts
     uint32_t m_seekNumber = 0;
     double m_spanEnd = -1.0;  // where the current span stops, or -1
     bool m_spanFresh = false; // set by setCurrentTime(seconds, end), taken by play()

@@ -148,20 +148,14 @@ void PlaybackProducer::buildIndex()
 
 void PlaybackProducer::readMailbox()
 {
+    // A rate change comes with a seek of its own: the rate is taken with the
+    // request that follows it, never in the middle of a stream.
     const uint64_t request = m_seekRequest.load(std::memory_order_acquire);
-    const float rate = m_rateRequest.load(std::memory_order_acquire);
-    const bool rateChanged = rate != m_rate;
-    m_rate = rate;
     if (request != m_seenRequest) {
         m_seenRequest = request;
+        m_rate = m_rateRequest.load(std::memory_order_acquire);
         seekTo(m_seekTarget.load(std::memory_order_relaxed), static_cast<uint32_t>(request >> 1),
                m_seekEnd.load(std::memory_order_relaxed));
-    } else if (rateChanged && m_positioned) {
-        // Carry on from the frame the device took last, at the new rate; what
-        // the ring holds at the old rate is dropped.
-        const FrameTag handed = m_handed.load();
-        const double from = handed.seek == m_seek ? handed.position + 1.0 / m_sampleRate : m_target;
-        seekTo(from, m_seek, m_spanEnd);
     }
 }
 

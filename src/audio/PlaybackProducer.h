@@ -41,6 +41,7 @@ public:
     // `end` >= 0 nothing from `end` (source seconds) on is written: the device
     // never gets audio beyond the span asked for.
     void requestSeek(double seconds, uint32_t seek, double end = -1.0);
+    // Takes effect at the next requestSeek().
     void requestRate(float rate);
     // Only changes how eagerly the thread polls the ring.
     void setPlaying(bool playing);
