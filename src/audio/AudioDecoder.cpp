@@ -1,6 +1,7 @@
 #include "audio/AudioDecoder.h"
 
 #include "audio/FourCC.h"
+#include "audio/FrameConverter.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -243,6 +244,10 @@ double DecodedBuffer::startTime() const
 
 void DecodedBuffer::channelAsFloat(int channel, float* out) const
 {
+    if (channel < 0 || channel >= channels()) {
+        std::fill_n(out, frames(), 0.0f);
+        return;
+    }
     const auto fmt = AVSampleFormat(m_frame->format);
     const bool planar = av_sample_fmt_is_planar(fmt);
     dispatchSampleType(fmt, [&](auto* tag) {
@@ -284,6 +289,8 @@ struct AudioDecoder::Impl
     bool inputDone = false; // no more packets will be sent
     bool flushed = false;   // the decoder has been told so
     int skipped = 0;
+    bool conform = true;
+    std::unique_ptr<FrameConverter> converter; // made at the first frame
 };
 
 namespace {
@@ -308,7 +315,9 @@ AudioDecoder::~AudioDecoder() = default;
 
 bool AudioDecoder::open(const QString& path)
 {
+    const bool conform = d->conform;
     d = std::make_unique<Impl>();
+    d->conform = conform;
     AVFormatContext* raw = nullptr;
     const QByteArray encoded = path.toUtf8();
     int rc = avformat_open_input(&raw, encoded.constData(), nullptr, nullptr);
@@ -337,6 +346,14 @@ bool AudioDecoder::open(const QString& path)
     const AVCodecParameters* par = stream->codecpar;
     if (par->sample_rate <= 0 || par->ch_layout.nb_channels <= 0) {
         d->error = QStringLiteral("the audio stream has no sample rate or channels");
+        return false;
+    }
+    // A damaged header can declare a stream no recording has; taken at its
+    // word it would be analysed as a file of many hours.
+    if (!FrameConverter::plausible(par->ch_layout.nb_channels, par->sample_rate)) {
+        d->error = QStringLiteral("the stream declares %1 channels at %2 Hz, which cannot be")
+                       .arg(par->ch_layout.nb_channels)
+                       .arg(par->sample_rate);
         return false;
     }
     AudioStreamInfo& info = d->info;
@@ -405,6 +422,11 @@ const DecodedBuffer& AudioDecoder::buffer() const
     return d->buffer;
 }
 
+void AudioDecoder::setConformFrames(bool conform)
+{
+    d->conform = conform;
+}
+
 int AudioDecoder::skippedPackets() const
 {
     return d->skipped;
@@ -418,9 +440,28 @@ AudioDecoder::ReadResult AudioDecoder::readNext()
     for (;;) {
         int rc = avcodec_receive_frame(codec, d->frame.get());
         if (rc >= 0) {
-            if (d->frame->nb_samples <= 0)
+            const AVFrame* frame = d->frame.get();
+            if (frame->nb_samples <= 0)
                 continue;
-            d->buffer.m_frame = d->frame.get();
+            if (!FrameConverter::plausible(frame->ch_layout.nb_channels, frame->sample_rate)) {
+                ++d->skipped;
+                continue;
+            }
+            if (d->conform) {
+                if (!d->converter)
+                    d->converter = std::make_unique<FrameConverter>(
+                        d->info.channels, frame->format, static_cast<int>(d->info.sampleRate));
+                if (!d->converter->matches(frame)) {
+                    frame = d->converter->convert(frame);
+                    if (!frame) {
+                        ++d->skipped;
+                        continue;
+                    }
+                    if (frame->nb_samples <= 0)
+                        continue;
+                }
+            }
+            d->buffer.m_frame = frame;
             return ReadResult::Buffer;
         }
         if (rc == AVERROR_EOF)
@@ -469,6 +510,8 @@ bool AudioDecoder::seek(double seconds)
         return false;
     }
     avcodec_flush_buffers(d->codec.get());
+    if (d->converter)
+        d->converter->reset();
     d->inputDone = false;
     d->flushed = false;
     d->buffer.m_frame = nullptr;

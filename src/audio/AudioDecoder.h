@@ -31,13 +31,17 @@ public:
     // Start of this buffer in seconds of the stream, when the container says.
     double startTime() const;
 
-    // Writes frames() samples of channel `channel` as float in -1..1.
+    // Writes frames() samples of channel `channel` as float in -1..1 (zeros
+    // for a channel the buffer does not have).
     void channelAsFloat(int channel, float* out) const;
     // The decoder's own float samples of one channel when it delivers them
     // unconverted and contiguous (most lossy codecs do), else null.
     const float* channelFloatData(int channel) const;
     // Writes frames() * channels() interleaved signed 16-bit values.
     void interleavedS16(int16_t* out) const;
+
+    // The frame itself, for a consumer that converts it as a whole.
+    const AVFrame* frame() const { return m_frame; }
 
 private:
     friend class AudioDecoder;
@@ -76,7 +80,14 @@ public:
     QString errorString() const;
 
     // Decodes the next buffer. On Buffer, buffer() holds it until the next call.
+    // Unless told otherwise, every buffer has the stream's channel count and
+    // sample rate as info() states them, and the sample format of the first:
+    // a frame that differs (a stream joined from parts) is converted, so that
+    // a buffer of n frames always lasts n / sampleRate seconds.
     ReadResult readNext();
+    // Off: buffers come as the codec made them (for a consumer that converts
+    // each frame itself).
+    void setConformFrames(bool conform);
     const DecodedBuffer& buffer() const;
 
     // Repositions the stream so that the following buffers begin at or before

@@ -4,6 +4,7 @@
 #include "audio/AudioManager.h"
 #include "audio/AudioOutput.h"
 #include "audio/AudioPlayer.h"
+#include "audio/PositionTickers.h"
 #include "common/Clock.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
@@ -21,7 +22,6 @@
 #include <thread>
 
 namespace {
-constexpr double kTickerInterval = 1.0 / 12.0;
 constexpr double kEndOfFileTolerance = 0.1;
 constexpr int kFadeSteps = 11;
 } // namespace
@@ -80,8 +80,17 @@ void AudioManager::playSegmentAtIndex(qint64 index)
 
     const Segment segment = m_segments[index];
     const double start = std::max(segment.start, 0.0);
-    if (m_audioPlayer)
-        m_audioPlayer->setCurrentTime(start);
+    // The gap after the segment is played too: up to the next one's start.
+    m_segmentEndSource = index + 1 < m_segments.size() ? m_segments[index + 1].start
+                                                       : segment.start + segment.duration;
+    if (m_audioPlayer) {
+        // In repeat mode nothing past the segment may be heard before the
+        // replay; otherwise the audio runs on into the next segment.
+        if (m_isRepeatMode)
+            m_audioPlayer->setCurrentTime(start, m_segmentEndSource);
+        else
+            m_audioPlayer->setCurrentTime(start);
+    }
     play();
 
     if (m_isRepeatMode && index == m_currentSegmentIndex)
@@ -91,14 +100,19 @@ void AudioManager::playSegmentAtIndex(qint64 index)
         m_currentSegmentIndex = index;
     }
 
-    // The gap after the segment is played too: up to the next one's start.
     double length =
         index + 1 < m_segments.size() ? m_segments[index + 1].start - start : segment.duration;
     length /= static_cast<double>(m_currentRate);
     // The position ticker that play() stored in the slot is replaced, not
     // cancelled: it keeps posting positions.
+    m_segmentEndRearms = 0;
+    armSegmentEnd(length);
+}
+
+void AudioManager::armSegmentEnd(double seconds)
+{
     QPointer<AudioManager> self(this);
-    m_playTimer = m_clock->scheduledTimer(length, false, [self] {
+    m_playTimer = m_clock->scheduledTimer(seconds, false, [self] {
         if (self)
             self->segmentEndTimerFired();
     });
@@ -106,6 +120,21 @@ void AudioManager::playSegmentAtIndex(qint64 index)
 
 void AudioManager::segmentEndTimerFired()
 {
+    // The interval runs from the call, but the segment's sound reaches the
+    // device later (its start-up, what it still held). Wait on until the
+    // device has taken the segment's last frame, so that a replay follows
+    // the end without cutting it short. A few waits at most: the device's
+    // position only lags, it never stops short of an end it was given.
+    constexpr int kMaxRearms = 4;
+    constexpr double kCloseEnough = 0.002;
+    if (m_audioPlayer && m_segmentEndRearms < kMaxRearms) {
+        const double wait = m_audioPlayer->secondsUntilHanded(m_segmentEndSource);
+        if (wait > kCloseEnough) {
+            ++m_segmentEndRearms;
+            armSegmentEnd(wait);
+            return;
+        }
+    }
     cancelPlayTimer();
     if (m_isRepeatMode) {
         m_center.post(Notifications::AutoUpdateWavePosDidUpdate, QVariant(false));
@@ -132,11 +161,9 @@ void AudioManager::play()
     if (m_audioPlayer)
         m_audioPlayer->play();
     cancelPlayTimer();
-    QPointer<AudioManager> self(this);
-    auto ticker = m_clock->scheduledTimer(kTickerInterval, true, [self] {
-        if (self)
-            self->updatePlaybackPosition();
-    });
+    // A ticker that lives on after the segment, as every play() adds one; all
+    // of them share one clock timer.
+    auto ticker = m_tickerGroup->add(*m_clock);
     m_tickers.append(ticker);
     m_playTimer = std::move(ticker);
     postStatus(Notifications::AudioPlaying, 1);
@@ -229,13 +256,17 @@ void AudioManager::saveMaxRepeatTimesSetting(qint64 times)
     m_defaults.synchronize();
 }
 
-void AudioManager::updatePlaybackPosition()
+void AudioManager::updatePlaybackPosition(int tickers)
 {
     const double position = m_audioPlayer ? m_audioPlayer->currentTime() : 0.0;
     if (std::fabs(m_duration - position) < kEndOfFileTolerance)
         m_isPlaybackFinished = true;
-    m_center.post(Notifications::AudioPlaybackPositionDidUpdate, QVariant::fromValue(this),
-                  {{QStringLiteral("position"), position}});
+    // Built once for all the posts of this tick.
+    static const QString name = QString::fromLatin1(Notifications::AudioPlaybackPositionDidUpdate);
+    const QVariant object = QVariant::fromValue(this);
+    const QVariantMap userInfo{{QStringLiteral("position"), position}};
+    for (int i = 0; i < tickers; ++i)
+        m_center.post(name, object, userInfo);
 }
 
 void AudioManager::performFadeIn()

@@ -2,6 +2,7 @@
 
 #include "audio/AudioOutput.h"
 #include "audio/AudioPlayer.h"
+#include "audio/PositionTickers.h"
 #include "common/Clock.h"
 #include "common/NotificationCenter.h"
 #include "preferences/Defaults.h"
@@ -18,6 +19,8 @@ AudioManager& AudioManager::sharedInstance()
 
 AudioManager::AudioManager(Defaults& defaults, NotificationCenter& center, QObject* parent)
     : QObject(parent), m_defaults(defaults), m_center(center), m_clock(&Clock::system()),
+      m_tickerGroup(std::make_unique<PositionTickers>(
+          kPositionTickerInterval, [this](int live) { updatePlaybackPosition(live); })),
       m_fadeQueue(std::make_unique<QThreadPool>())
 {
     m_fadeQueue->setObjectName(QStringLiteral("com.audiomanager.fade"));
@@ -41,13 +44,26 @@ bool AudioManager::fail(const QString& reason)
     return false;
 }
 
+double AudioManager::storedMinSegmentDuration(double stored)
+{
+    return stored >= 1.0 ? stored : 1.0;
+}
+
+qint64 AudioManager::storedSensitivity(double stored)
+{
+    // The floor turns a stored 0 ("Low") into 1; kept so that older settings
+    // files segment as they always did. The cap only keeps the conversion
+    // defined: past 2 every value segments as 1 does.
+    if (!(stored >= 1.0))
+        return 1;
+    return static_cast<qint64>(std::min(stored, 2147483647.0));
+}
+
 void AudioManager::loadSettings()
 {
     using namespace PreferenceKeys;
-    m_minSegmentDuration = std::max(m_defaults.doubleForKey(MinSegmentDuration), 1.0);
-    // The floor turns a stored 0 ("Low") into 1; kept so that older settings
-    // files segment as they always did.
-    m_sensitivity = static_cast<qint64>(std::max(m_defaults.doubleForKey(Sensitivity), 1.0));
+    m_minSegmentDuration = storedMinSegmentDuration(m_defaults.doubleForKey(MinSegmentDuration));
+    m_sensitivity = storedSensitivity(m_defaults.doubleForKey(Sensitivity));
     m_minGapDuration = std::max(m_defaults.doubleForKey(MinGapDuration), 1.0);
 
     const double speed = m_defaults.doubleForKey(PlaySpeed);

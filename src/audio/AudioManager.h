@@ -13,6 +13,7 @@
 
 class AudioOutput;
 class AudioPlayer;
+class PositionTickers;
 class Clock;
 class Defaults;
 class NotificationCenter;
@@ -99,6 +100,10 @@ public:
     void printSliencSegment(const QList<Silence>& silences, const SegmentList& segments) const;
 
     // ---- Settings ----
+    // How a stored value is read: below 1.0 counts as 1.0; the sensitivity is
+    // then truncated to an integer.
+    static double storedMinSegmentDuration(double stored);
+    static qint64 storedSensitivity(double stored);
     void loadSettings();
     void saveSettings(double minSegmentDuration, qint64 sensitivity, double playSpeed);
     void resetToDefaultSettings();
@@ -135,7 +140,10 @@ public:
     void setPlaybackRate(float rate);
     void setRepeatTimes(qint64 times);
     void saveMaxRepeatTimesSetting(qint64 times);
-    void updatePlaybackPosition();
+    // The ticker's action; `tickers` notifications are posted for one reading
+    // of the position.
+    void updatePlaybackPosition(int tickers = 1);
+    static constexpr double kPositionTickerInterval = 1.0 / 12.0;
     void performFadeIn();
     void closeAudioFile();
 
@@ -162,6 +170,7 @@ private:
     bool createAudioPlayer(const QString& path);
     void cancelPlayTimer();
     void segmentEndTimerFired();
+    void armSegmentEnd(double seconds);
     void resumeTimerFired();
     void deliverPlaybackCompletion();
     void postStatus(const char* name, int status);
@@ -208,8 +217,11 @@ private:
     Clock* m_clock;
     OutputFactory m_outputFactory;
     std::unique_ptr<AudioPlayer> m_audioPlayer;
-    std::shared_ptr<Timer> m_playTimer;      // the one timer slot
-    QList<std::shared_ptr<Timer>> m_tickers; // every position ticker started by play()
+    std::shared_ptr<Timer> m_playTimer;             // the one timer slot
+    std::unique_ptr<PositionTickers> m_tickerGroup; // one clock timer for all of them
+    QList<std::shared_ptr<Timer>> m_tickers;        // every position ticker started by play()
+    double m_segmentEndSource = 0.0;                // source seconds where the playing segment ends
+    int m_segmentEndRearms = 0;
     qint64 m_currentSegmentIndex = 0;
     qint64 m_currentSegmentRepeatedTimes = 0;
     bool m_isRepeatMode = true;

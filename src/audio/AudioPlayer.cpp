@@ -18,6 +18,8 @@ std::unique_ptr<AudioPlayer>
 AudioPlayer::create(const QString& path, std::unique_ptr<AudioOutput> output, QString* error)
 {
     auto decoder = std::make_unique<AudioDecoder>();
+    // The producer converts each frame straight to the device's layout.
+    decoder->setConformFrames(false);
     if (!decoder->open(path) || !decoder->openCodec()) {
         if (error)
             *error = decoder->errorString();
@@ -88,6 +90,13 @@ bool AudioPlayer::prepareToPlay()
 bool AudioPlayer::play()
 {
     prepareToPlay();
+    if (m_spanEnd >= 0.0 && !m_spanFresh) {
+        // Plain play after a span: on from where it stands, without the bound.
+        const double from = currentTime();
+        m_spanEnd = -1.0;
+        setCurrentTime(from);
+    }
+    m_spanFresh = false;
     m_playing = true;
     m_audible.store(true, std::memory_order_release);
     m_producer->setPlaying(true);
@@ -113,18 +122,37 @@ double AudioPlayer::currentTime() const
     const FrameTag handed = m_handed.load();
     if (!m_playing || handed.seek != m_seekNumber)
         return m_floor;
-    const double rate = m_enableRate ? static_cast<double>(m_rate) : 1.0;
+    const double rate = static_cast<double>(m_appliedRate);
     const double heard = handed.position - m_output->latency() * rate;
     return std::max(heard, m_floor);
 }
 
 void AudioPlayer::setCurrentTime(double seconds)
 {
+    setCurrentTime(seconds, -1.0);
+    m_spanFresh = false;
+}
+
+void AudioPlayer::setCurrentTime(double seconds, double end)
+{
     const double target = std::clamp(seconds, 0.0, std::max(m_duration, 0.0));
     m_floor = target;
+    m_target = target;
+    m_spanEnd = end >= 0.0 ? std::max(end, target) : -1.0;
+    m_spanFresh = m_spanEnd >= 0.0;
     ++m_seekNumber;
     m_wantedSeek.store(m_seekNumber, std::memory_order_release);
-    m_producer->requestSeek(target, m_seekNumber);
+    m_producer->requestSeek(target, m_seekNumber, m_spanEnd);
+}
+
+double AudioPlayer::secondsUntilHanded(double sourceSeconds) const
+{
+    const FrameTag handed = m_handed.load();
+    if (!m_playing || handed.seek != m_seekNumber || m_format.sampleRate <= 0)
+        return 0.0;
+    const double rate = static_cast<double>(m_appliedRate);
+    const double left = sourceSeconds - handed.position - 1.0 / m_format.sampleRate;
+    return std::max(left / rate, 0.0);
 }
 
 void AudioPlayer::setEnableRate(bool enable)
@@ -141,7 +169,22 @@ void AudioPlayer::setRate(float rate)
 
 void AudioPlayer::applyRate()
 {
-    m_producer->requestRate(m_enableRate ? m_rate : 1.0f);
+    const float rate = m_enableRate ? m_rate : 1.0f;
+    if (rate == m_appliedRate)
+        return;
+    // Nothing made at the old rate may be handed out once the rate is set:
+    // the change gets a seek number of its own (the device stops taking the
+    // old frames at once), and the sound goes on from the frame the device
+    // took last, or from where the last move asked for if it took none.
+    m_floor = currentTime();
+    ++m_seekNumber;
+    m_wantedSeek.store(m_seekNumber, std::memory_order_release);
+    const FrameTag handed = m_handed.load();
+    if (handed.seek == m_seekNumber - 1 && m_format.sampleRate > 0)
+        m_target = handed.position + 1.0 / m_format.sampleRate;
+    m_appliedRate = rate;
+    m_producer->requestRate(rate);
+    m_producer->requestSeek(m_target, m_seekNumber, m_spanEnd);
 }
 
 void AudioPlayer::setVolume(float volume)
@@ -168,11 +211,15 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
                              m_wantedSeek.load(std::memory_order_acquire), &last);
         if (copied > 0)
             m_handed.store(last);
-        // Ran dry in the middle of the sound (not before its first frame).
-        if (copied < frames && m_handedSeek == m_wantedSeek.load(std::memory_order_relaxed))
+        // A gap inside the sound: the ring ran dry after the first frame and
+        // more of the same sound came later. The end of a span or of the file
+        // also reads short, but nothing follows it.
+        const uint32_t wanted = m_wantedSeek.load(std::memory_order_relaxed);
+        if (copied > 0 && m_ranDry && last.seek == m_handedSeek)
             m_shortReads.fetch_add(1, std::memory_order_relaxed);
         if (copied > 0)
             m_handedSeek = last.seek;
+        m_ranDry = copied < frames && m_handedSeek == wanted;
     } else {
         m_ring.skipStale();
     }

@@ -49,6 +49,14 @@ public:
     double currentTime() const;
     // Moves to `seconds`; the next sound heard is the sample at that time.
     void setCurrentTime(double seconds);
+    // As above, and the play() that follows stops handing out sound at `end`
+    // (source seconds): the device is never given audio beyond the span. A
+    // later play() without a new span plays on from where it stands.
+    void setCurrentTime(double seconds, double end);
+    // Wall seconds until the device will have taken every frame before
+    // `sourceSeconds` at the present rate; 0 when it has, or when it has not
+    // yet taken anything since the last move.
+    double secondsUntilHanded(double sourceSeconds) const;
 
     // The rate is applied only while rate control is enabled.
     void setEnableRate(bool enable);
@@ -64,8 +72,8 @@ public:
     // first frame after the last seek entered the ring.
     FrameTag handedFrame() const { return m_handed.load(); }
     uint32_t seekNumber() const { return m_seekNumber; }
-    // How often the device found the ring empty while sound was playing (the
-    // end of the file counts once).
+    // How often the sound had a gap: the device found the ring empty and more
+    // of the same sound followed (the end of a span or of the file is not one).
     int shortReads() const { return m_shortReads.load(std::memory_order_relaxed); }
     PlaybackProducer::SeekTiming lastSeekTiming() const { return m_producer->lastSeekTiming(); }
 
@@ -94,13 +102,18 @@ private:
     bool m_playing = false;
     bool m_enableRate = false;
     float m_rate = 1.0f;
+    float m_appliedRate = 1.0f; // what the decode thread was last asked for
+    double m_target = 0.0;      // where the sound of the present seek number starts
     uint32_t m_seekNumber = 0;
-    double m_floor = 0.0; // currentTime() never reports less until the device moves on
+    double m_spanEnd = -1.0;  // where the current span stops, or -1
+    bool m_spanFresh = false; // set by setCurrentTime(seconds, end), taken by play()
+    double m_floor = 0.0;     // currentTime() never reports less until the device moves on
 
     // Read by the device callback.
     std::atomic<bool> m_audible{false};
     std::atomic<uint32_t> m_wantedSeek{0};
     std::atomic<int> m_shortReads{0};
     uint32_t m_handedSeek = 0; // device callback only
+    bool m_ranDry = false;     // device callback only
     std::atomic<float> m_volume{1.0f};
 };

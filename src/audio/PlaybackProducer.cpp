@@ -2,12 +2,18 @@
 
 #include "audio/AudioDecoder.h"
 #include "audio/FourCC.h"
+#include "audio/FrameConverter.h"
 #include "audio/HandedPosition.h"
 #include "audio/TimeStretcher.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+
+extern "C" {
+#include <libavutil/frame.h>
+#include <libavutil/samplefmt.h>
+}
 
 namespace {
 
@@ -41,13 +47,14 @@ double runInFor(uint32_t formatID)
 PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
                                    const HandedPosition& handed, Events events)
     : m_decoder(decoder), m_ring(ring), m_handed(handed), m_events(std::move(events)),
-      m_sampleRate(decoder.info().sampleRate), m_sourceChannels(decoder.info().channels),
-      m_channels(ring.channels()), m_streamStart(decoder.info().startTime),
-      m_runIn(runInFor(decoder.info().formatID)),
+      m_sampleRate(decoder.info().sampleRate), m_channels(ring.channels()),
+      m_streamStart(decoder.info().startTime), m_runIn(runInFor(decoder.info().formatID)),
       m_fillTarget(
           std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.25 * m_sampleRate))),
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
                                                   static_cast<int>(kBlock))),
+      m_converter(std::make_unique<FrameConverter>(m_channels, AV_SAMPLE_FMT_FLT,
+                                                   static_cast<int>(m_sampleRate))),
       m_stretched(static_cast<size_t>(kBlock * m_channels))
 {
     m_thread = std::thread([this] { run(); });
@@ -60,9 +67,10 @@ PlaybackProducer::~PlaybackProducer()
     m_thread.join();
 }
 
-void PlaybackProducer::requestSeek(double seconds, uint32_t seek)
+void PlaybackProducer::requestSeek(double seconds, uint32_t seek, double end)
 {
     m_seekTarget.store(seconds, std::memory_order_relaxed);
+    m_seekEnd.store(end, std::memory_order_relaxed);
     m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
     wake();
 }
@@ -140,27 +148,24 @@ void PlaybackProducer::buildIndex()
 
 void PlaybackProducer::readMailbox()
 {
+    // A rate change comes with a seek of its own: the rate is taken with the
+    // request that follows it, never in the middle of a stream.
     const uint64_t request = m_seekRequest.load(std::memory_order_acquire);
-    const float rate = m_rateRequest.load(std::memory_order_acquire);
-    const bool rateChanged = rate != m_rate;
-    m_rate = rate;
     if (request != m_seenRequest) {
         m_seenRequest = request;
-        seekTo(m_seekTarget.load(std::memory_order_relaxed), static_cast<uint32_t>(request >> 1));
-    } else if (rateChanged && m_positioned) {
-        // Carry on from the frame the device took last, at the new rate; what
-        // the ring holds at the old rate is dropped.
-        const FrameTag handed = m_handed.load();
-        const double from = handed.seek == m_seek ? handed.position + 1.0 / m_sampleRate : m_target;
-        seekTo(from, m_seek);
+        m_rate = m_rateRequest.load(std::memory_order_acquire);
+        seekTo(m_seekTarget.load(std::memory_order_relaxed), static_cast<uint32_t>(request >> 1),
+               m_seekEnd.load(std::memory_order_relaxed));
     }
 }
 
-void PlaybackProducer::seekTo(double seconds, uint32_t seek)
+void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end)
 {
     m_ring.flush();
     m_seek = seek;
     m_target = std::max(seconds, 0.0);
+    m_spanEnd = end;
+    m_spanEnded = false;
     m_dropUntil = std::llround(m_target * m_sampleRate);
     m_pendingFrames = m_pendingOffset = 0;
     m_needTimestamp = true;
@@ -172,6 +177,7 @@ void PlaybackProducer::seekTo(double seconds, uint32_t seek)
     m_skippedSeen = m_decoder.skippedPackets();
     const double from = std::max(m_target - m_runIn, 0.0);
     m_nextFrame = std::llround(from * m_sampleRate);
+    m_converter->reset();
     if (!m_decoder.seek(m_streamStart + from)) {
         m_positioned = false;
         if (m_events.decodeError)
@@ -194,7 +200,7 @@ bool PlaybackProducer::produce()
     if (!m_positioned)
         return false;
     if (m_finished) {
-        if (!m_endReported && m_ring.readIndex() >= m_endIndex) {
+        if (!m_endReported && !m_spanEnded && m_ring.readIndex() >= m_endIndex) {
             m_endReported = true;
             if (m_events.reachedEnd)
                 m_events.reachedEnd(m_seek);
@@ -213,9 +219,22 @@ bool PlaybackProducer::produceDirect(qsizetype room)
         finish();
         return true;
     }
-    const qsizetype n = std::min(room, m_pendingFrames - m_pendingOffset);
-    writeToRing(m_pending.data() + m_pendingOffset * m_channels, n,
-                double(m_pendingStart + m_pendingOffset) / m_sampleRate, 1.0 / m_sampleRate);
+    qsizetype n = std::min(room, m_pendingFrames - m_pendingOffset);
+    const int64_t at = m_pendingStart + m_pendingOffset;
+    if (m_spanEnd >= 0.0) {
+        const int64_t endFrame = std::llround(m_spanEnd * m_sampleRate);
+        if (at + n >= endFrame) {
+            n = static_cast<qsizetype>(std::max<int64_t>(endFrame - at, 0));
+            writeToRing(m_pending.data() + m_pendingOffset * m_channels, n,
+                        double(at) / m_sampleRate, 1.0 / m_sampleRate);
+            m_pendingOffset += n;
+            m_spanEnded = true;
+            finish();
+            return true;
+        }
+    }
+    writeToRing(m_pending.data() + m_pendingOffset * m_channels, n, double(at) / m_sampleRate,
+                1.0 / m_sampleRate);
     m_pendingOffset += n;
     return true;
 }
@@ -245,6 +264,14 @@ bool PlaybackProducer::produceStretched(qsizetype room)
     // Each output frame stands for `rate` source frames. The stretcher's own
     // output length at the end is not exact, so the end is cut by position.
     const double step = static_cast<double>(m_rate) / m_sampleRate;
+    if (m_spanEnd >= 0.0 && m_outPosition + double(keep) * step > m_spanEnd) {
+        const double left = std::ceil((m_spanEnd - m_outPosition) / step - 1e-9);
+        keep = std::clamp<qsizetype>(static_cast<qsizetype>(std::max(left, 0.0)), 0, keep);
+        writeToRing(m_stretched.data() + dropped * m_channels, keep, m_outPosition, step);
+        m_spanEnded = true;
+        finish();
+        return true;
+    }
     if (m_inputDone && m_sourceEnd >= 0) {
         const double end = double(m_sourceEnd) / m_sampleRate;
         const double left = std::ceil((end - m_outPosition) / step);
@@ -282,7 +309,19 @@ bool PlaybackProducer::decodeNext()
             return false;
         }
         const DecodedBuffer& buffer = m_decoder.buffer();
-        const qsizetype frames = buffer.frames();
+        // Every frame is converted from its own layout, format and rate: a
+        // file joined from parts may change any of them mid-way.
+        const AVFrame* converted = m_converter->convert(buffer.frame());
+        if (!converted) {
+            if (!m_errorReported && m_events.decodeError) {
+                m_errorReported = true;
+                m_events.decodeError(m_converter->errorString());
+            }
+            continue;
+        }
+        const qsizetype frames = converted->nb_samples;
+        if (frames <= 0)
+            continue;
         if (m_needTimestamp) {
             // The first buffer after a seek says where it starts; from there on
             // frames are counted. A first frame dated before the stream start
@@ -301,14 +340,8 @@ bool PlaybackProducer::decodeNext()
             continue;
 
         const qsizetype kept = frames - skip;
-        m_channel.resize(static_cast<size_t>(frames));
-        m_pending.resize(static_cast<size_t>(kept * m_channels));
-        for (int c = 0; c < m_channels; ++c) {
-            buffer.channelAsFloat(std::min(c, m_sourceChannels - 1), m_channel.data());
-            for (qsizetype i = 0; i < kept; ++i)
-                m_pending[static_cast<size_t>(i * m_channels + c)] =
-                    m_channel[static_cast<size_t>(skip + i)];
-        }
+        const auto* samples = reinterpret_cast<const float*>(converted->extended_data[0]);
+        m_pending.assign(samples + skip * m_channels, samples + frames * m_channels);
         m_pendingStart = first + skip;
         m_pendingFrames = kept;
         m_pendingOffset = 0;

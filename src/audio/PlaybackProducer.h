@@ -13,6 +13,7 @@
 #include <vector>
 
 class AudioDecoder;
+class FrameConverter;
 class HandedPosition;
 class TimeStretcher;
 
@@ -36,8 +37,11 @@ public:
     PlaybackProducer(const PlaybackProducer&) = delete;
     PlaybackProducer& operator=(const PlaybackProducer&) = delete;
 
-    // Frames of the first audio written after a seek are tagged `seek`.
-    void requestSeek(double seconds, uint32_t seek);
+    // Frames of the first audio written after a seek are tagged `seek`. With
+    // `end` >= 0 nothing from `end` (source seconds) on is written: the device
+    // never gets audio beyond the span asked for.
+    void requestSeek(double seconds, uint32_t seek, double end = -1.0);
+    // Takes effect at the next requestSeek().
     void requestRate(float rate);
     // Only changes how eagerly the thread polls the ring.
     void setPlaying(bool playing);
@@ -54,7 +58,7 @@ private:
     void run();
     void wake();
     void readMailbox();
-    void seekTo(double seconds, uint32_t seek);
+    void seekTo(double seconds, uint32_t seek, double end);
     void buildIndex();
     bool produce();
     bool produceDirect(qsizetype room);
@@ -68,16 +72,17 @@ private:
     const HandedPosition& m_handed;
     Events m_events;
     double m_sampleRate;
-    int m_sourceChannels;
     int m_channels;
     double m_streamStart;
     double m_runIn;
     qsizetype m_fillTarget;
     std::unique_ptr<TimeStretcher> m_stretcher;
+    std::unique_ptr<FrameConverter> m_converter; // any frame to the ring's layout
 
     // Mailbox, written by the owner's thread.
     std::atomic<uint64_t> m_seekRequest{0};
     std::atomic<double> m_seekTarget{0.0};
+    std::atomic<double> m_seekEnd{-1.0};
     std::atomic<float> m_rateRequest{1.0f};
     std::atomic<bool> m_playing{false};
     std::atomic<bool> m_quit{false};
@@ -96,10 +101,11 @@ private:
     bool m_indexed = false;
     uint32_t m_seek = 0;
     double m_target = 0.0;
-    int64_t m_dropUntil = 0; // source frame where output starts
+    double m_spanEnd = -1.0;  // source seconds where this span stops, or -1
+    bool m_spanEnded = false; // stopped at m_spanEnd rather than at the file's end
+    int64_t m_dropUntil = 0;  // source frame where output starts
     bool m_needTimestamp = true;
-    int64_t m_nextFrame = 0; // source frame of the next decoded frame
-    std::vector<float> m_channel;
+    int64_t m_nextFrame = 0;      // source frame of the next decoded frame
     std::vector<float> m_pending; // decoded, interleaved output channels
     qsizetype m_pendingFrames = 0;
     qsizetype m_pendingOffset = 0;

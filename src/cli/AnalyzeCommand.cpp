@@ -15,6 +15,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <cmath>
 #include <cstdio>
 #include <optional>
 
@@ -24,7 +25,7 @@ struct LoadOptions
 {
     QString path;
     std::optional<double> minSegmentDuration;
-    std::optional<int> sensitivity;
+    std::optional<qint64> sensitivity;
     bool rms = false;
 };
 
@@ -36,14 +37,18 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
     parser.addPositionalArgument(QStringLiteral("AUDIO"), QStringLiteral("the audio file"));
+    // Both values are taken as the application would find them stored, and
+    // read the same way.
     const QCommandLineOption minSegment(
         QStringLiteral("min-segment-duration"),
-        QStringLiteral("shortest segment to cut, in seconds (default: the stored preference)"),
+        QStringLiteral("shortest segment to cut, in seconds, read as a stored preference is: "
+                       "any number, below 1 counts as 1 (default: the stored preference)"),
         QStringLiteral("S"));
     const QCommandLineOption sensitivity(
         QStringLiteral("sensitivity"),
-        QStringLiteral(
-            "silence sensitivity, 0 low, 1 medium, 2 high (default: the stored preference)"),
+        QStringLiteral("silence sensitivity, 1 medium, 2 high, read as a stored preference is: "
+                       "any number, below 1 counts as 1, then truncated to a whole number "
+                       "(default: the stored preference)"),
         QStringLiteral("N"));
     const QCommandLineOption rms(QStringLiteral("rms"),
                                  QStringLiteral("include every 20 ms loudness value"));
@@ -54,24 +59,28 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
     if (auto code =
             Cli::parseCommandLine(parser, command, args, QStringLiteral("audio file"), out.path))
         return code;
-    if (parser.isSet(minSegment)) {
+    // A number as the store would hold it; anything that is not one is refused.
+    const auto number = [&parser](const QCommandLineOption& option,
+                                  const QString& name) -> std::optional<double> {
         bool ok = false;
-        const double value = parser.value(minSegment).toDouble(&ok);
-        if (!ok || !(value > 0.0)) {
-            Cli::printError(
-                QStringLiteral("--min-segment-duration takes a positive number of seconds"));
-            return Cli::UsageError;
+        const double value = parser.value(option).toDouble(&ok);
+        if (!ok || !std::isfinite(value)) {
+            Cli::printError(QStringLiteral("--%1 takes a number").arg(name));
+            return std::nullopt;
         }
-        out.minSegmentDuration = value;
+        return value;
+    };
+    if (parser.isSet(minSegment)) {
+        const auto value = number(minSegment, QStringLiteral("min-segment-duration"));
+        if (!value)
+            return Cli::UsageError;
+        out.minSegmentDuration = AudioManager::storedMinSegmentDuration(*value);
     }
     if (parser.isSet(sensitivity)) {
-        bool ok = false;
-        const int value = parser.value(sensitivity).toInt(&ok);
-        if (!ok || value < 0 || value > 2) {
-            Cli::printError(QStringLiteral("--sensitivity takes 0, 1 or 2"));
+        const auto value = number(sensitivity, QStringLiteral("sensitivity"));
+        if (!value)
             return Cli::UsageError;
-        }
-        out.sensitivity = value;
+        out.sensitivity = AudioManager::storedSensitivity(*value);
     }
     out.rms = withRms && parser.isSet(rms);
     return std::nullopt;

@@ -72,6 +72,9 @@ int identity(const QStringList& args)
         return *code;
     if (auto code = requireFile(path))
         return *code;
+    // The open panel hands the application an absolute path; the identity
+    // hashes the path, so a relative one must be made absolute first.
+    path = QFileInfo(path).absoluteFilePath();
 
     QString error;
     if (!FileIdentity::identityKeyForFileAtPath(path, &error)) {

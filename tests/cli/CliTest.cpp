@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -160,7 +161,8 @@ TEST_F(Cli, UsageErrorsExitTwoAndHelpExitsZero)
     EXPECT_EQ(run({"frobnicate"}).exitCode, 2);
     EXPECT_EQ(run({"analyze"}).exitCode, 2);
     EXPECT_EQ(run({"analyze", fixture("speech.wav"), fixture("speech.wav")}).exitCode, 2);
-    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--sensitivity", "5"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--sensitivity", "high"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--sensitivity", "inf"}).exitCode, 2);
     EXPECT_EQ(run({"analyze", fixture("speech.wav"), "--min-segment-duration", "soon"}).exitCode,
               2);
     EXPECT_EQ(run({"split", fixture("speech.wav"), "--rms"}).exitCode, 2);
@@ -183,6 +185,69 @@ TEST_F(Cli, StoredPreferencesApplyUnlessAnOptionOverridesThem)
     storeSetting("kminSegmentDuration=nonsense\nksensitivity=@ByteArray(x)");
     const QJsonObject o = analyze({fixture("speech.wav")});
     EXPECT_EQ(starts(o).size(), 5);
+}
+
+// The options are the values as the application would find them stored: the
+// same floors and truncation apply, so an option and the same stored value
+// give the same answer.
+TEST_F(Cli, OptionsAreReadAsStoredSettingsAre)
+{
+    const QString file = fixture("speech.wav");
+    const auto withOption = [&](const QString& option, const QString& value) {
+        return run({"analyze", file, option, value}).out;
+    };
+    const auto withStored = [&](const QString& key, const QString& value) {
+        storeSetting(key + "=" + value);
+        const QByteArray out = run({"analyze", file}).out;
+        storeSetting("");
+        return out;
+    };
+
+    const QByteArray medium = withOption("--sensitivity", "1");
+    const QByteArray high = withOption("--sensitivity", "2");
+    ASSERT_FALSE(medium.isEmpty());
+    EXPECT_NE(QJsonDocument::fromJson(medium)["threshold"],
+              QJsonDocument::fromJson(high)["threshold"]);
+    EXPECT_EQ(withOption("--sensitivity", "0"), medium); // below 1 counts as 1
+    EXPECT_EQ(withOption("--sensitivity", "-4"), medium);
+    EXPECT_EQ(withOption("--sensitivity", "2.9"), high); // truncated
+    EXPECT_EQ(withOption("--sensitivity", "0"), withStored("ksensitivity", "0"));
+    EXPECT_EQ(withOption("--sensitivity", "2.9"), withStored("ksensitivity", "2.9"));
+    EXPECT_EQ(withOption("--sensitivity", "7"), withStored("ksensitivity", "7"));
+
+    const QByteArray oneSecond = withOption("--min-segment-duration", "1");
+    EXPECT_EQ(withOption("--min-segment-duration", "0.5"), oneSecond);
+    EXPECT_EQ(withOption("--min-segment-duration", "0"), oneSecond);
+    EXPECT_EQ(withOption("--min-segment-duration", "0.5"),
+              withStored("kminSegmentDuration", "0.5"));
+    EXPECT_EQ(withOption("--min-segment-duration", "2.5"),
+              withStored("kminSegmentDuration", "2.5"));
+
+    // The help says so (its lines are wrapped to the terminal).
+    const QByteArray help = run({"analyze", "--help"}).out.simplified();
+    EXPECT_TRUE(help.contains("below 1 counts as 1")) << help.constData();
+    EXPECT_TRUE(help.contains("truncated")) << help.constData();
+}
+
+// The application hashes the absolute path its open panel hands over; a
+// relative path typed on the command line names the same file.
+TEST_F(Cli, IdentityOfARelativePathIsThatOfTheAbsoluteOne)
+{
+    const QFileInfo info(fixture("speech.wav"));
+    QProcess p;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("XDG_CONFIG_HOME", config.path());
+    p.setProcessEnvironment(env);
+    p.setWorkingDirectory(info.absolutePath());
+    p.start(TestSupport::cliPath(), {"identity", info.fileName()});
+    ASSERT_TRUE(p.waitForFinished(60000));
+    ASSERT_EQ(p.exitCode(), 0) << p.readAllStandardError().constData();
+    const QByteArray relative = p.readAllStandardOutput();
+
+    const Result absolute = run({"identity", info.absoluteFilePath()});
+    ASSERT_EQ(absolute.exitCode, 0);
+    EXPECT_EQ(relative, absolute.out);
+    EXPECT_EQ(relative.split('\n').first().size(), 64);
 }
 
 TEST_F(Cli, VerboseShowsTheEngineLog)

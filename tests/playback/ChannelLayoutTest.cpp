@@ -1,0 +1,161 @@
+// Whatever the channels of a file, and whatever its frames do mid-way: the
+// player mixes every source channel into the output, a stream that changes
+// its channel count plays to its end, and the analysis keeps 20 ms frames.
+
+#include "PlayerTestSupport.h"
+#include "audio/AudioDecoder.h"
+#include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "support/TestSupport.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <cmath>
+#include <gtest/gtest.h>
+
+using namespace PlayerTest;
+using TestSupport::fixture;
+
+namespace {
+
+class JoinedStream : public ::testing::TestWithParam<const char*>
+{
+};
+
+// Frames the decoder delivers for the whole file, all at the stream's rate.
+qsizetype decodedFrames(const QString& path)
+{
+    AudioDecoder decoder;
+    if (!decoder.open(path) || !decoder.openCodec())
+        return -1;
+    qsizetype frames = 0;
+    while (decoder.readNext() == AudioDecoder::ReadResult::Buffer) {
+        EXPECT_EQ(decoder.buffer().channels(), decoder.info().channels);
+        frames += decoder.buffer().frames();
+    }
+    return frames;
+}
+
+// Peak magnitude of one output channel over [from, to) frames.
+float peak(const std::vector<float>& frames, int channels, int channel, qsizetype from,
+           qsizetype to)
+{
+    float best = 0.0f;
+    for (qsizetype i = from; i < to; ++i)
+        best = std::max(best, std::fabs(frames[size_t(i * channels + channel)]));
+    return best;
+}
+
+} // namespace
+
+// Stereo frames, then mono frames (a podcast joined from parts): the player
+// converts each frame with its own layout, so the mono part is heard on both
+// sides and the file plays to its end instead of crashing.
+TEST_P(JoinedStream, PlaysToItsEndWithTheMonoPartOnBothSides)
+{
+    const QString path = fixture(GetParam());
+    const qsizetype total = decodedFrames(path);
+    ASSERT_GT(total, 44100 * 10);
+
+    ManualPlayer p = openManual(path);
+    ASSERT_TRUE(p.player);
+    ASSERT_EQ(p.player->format().channels, 2);
+    QSignalSpy finished(p.player.get(), &AudioPlayer::didFinishPlaying);
+    p.player->play();
+    // The whole file but its last half second, then pull until it ends.
+    const std::vector<float> got = p.take(total - 22050);
+    std::vector<float> block;
+    for (int i = 0; i < 400 && finished.isEmpty(); ++i) {
+        p.output->pull(1024, block);
+        finished.wait(5);
+    }
+    EXPECT_EQ(finished.size(), 1) << "the end of the file was not reached";
+
+    // Speech in the mono part (after 3 s) reaches both output channels alike.
+    const qsizetype from = 44100 * 5, to = 44100 * 9;
+    const float left = peak(got, 2, 0, from, to);
+    const float right = peak(got, 2, 1, from, to);
+    EXPECT_GT(left, 0.05f);
+    EXPECT_NEAR(left, right, 1e-4f);
+}
+
+// The analysis converts the mono frames to the stream's first layout, so that
+// a 20 ms frame stays 20 ms and the file keeps its sentences.
+TEST_P(JoinedStream, AnalysisKeepsTwentyMillisecondFrames)
+{
+    TestSupport::TempDefaults defaults;
+    NotificationCenter center;
+    AudioManager engine(defaults.store(), center);
+    bool loaded = false;
+    engine.processAudioFile(fixture(GetParam()), [&](bool ok) { loaded = ok; });
+    ASSERT_TRUE(loaded) << qPrintable(engine.lastError());
+    const qsizetype frames = decodedFrames(fixture(GetParam()));
+    EXPECT_EQ(engine.totalSamples(), frames);
+    EXPECT_NEAR(double(engine.audioCharacteristics().rmsValues.size()), double(frames) / 882.0,
+                1.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, JoinedStream,
+                         ::testing::Values("stereo_then_mono.mp3", "stereo_then_mono.aac",
+                                           "stereo_then_mono.flac"));
+
+// FFmpeg's standard downmix folds the centre into each side at -3 dB: speech
+// that lives in the centre of a 5.1 file alone is heard at that level.
+TEST(Downmix, TheCentreOfA51FileIsHeardOnBothSidesAtMinusThreeDecibels)
+{
+    const std::vector<float> mono = straightDecode(fixture("speech.wav"));
+    ManualPlayer p = openManual(fixture("speech_centre_51.wav"));
+    ASSERT_TRUE(p.player);
+    ASSERT_EQ(p.player->format().channels, 2);
+    p.player->play();
+    const qsizetype frames = 44100 * 4;
+    const std::vector<float> got = p.take(frames);
+    ASSERT_EQ(got.size(), size_t(frames * 2));
+    float worst = 0.0f;
+    for (qsizetype i = 0; i < frames; ++i) {
+        const float expected = mono[size_t(i)] * float(M_SQRT1_2);
+        worst = std::max({worst, std::fabs(got[size_t(2 * i)] - expected),
+                          std::fabs(got[size_t(2 * i + 1)] - expected)});
+    }
+    EXPECT_LT(worst, 1e-4f);
+    EXPECT_GT(peak(got, 2, 0, 0, frames), 0.1f);
+}
+
+// A header that declares a stream no recording has is refused with its reason
+// rather than analysed as a file of many hours.
+TEST(ImpossibleHeader, IsRefusedWithAOneLineReason)
+{
+    QTemporaryDir dir;
+    QFile source(fixture("speech.wav"));
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    const QByteArray wav = source.readAll();
+    struct Patch
+    {
+        const char* name;
+        int offset;
+        QByteArray bytes;
+    };
+    // WAV: channels at byte 22 (16 bit), sample rate at 24 (32 bit).
+    const Patch patches[] = {{"rate_500.wav", 24, QByteArray("\xf4\x01\x00\x00", 4)},
+                             {"rate_2M.wav", 24, QByteArray("\x80\x84\x1e\x00", 4)},
+                             {"channels_100.wav", 22, QByteArray("\x64\x00", 2)}};
+    for (const Patch& patch : patches) {
+        QByteArray bytes = wav;
+        bytes.replace(patch.offset, patch.bytes.size(), patch.bytes);
+        const QString path = dir.filePath(patch.name);
+        QFile out(path);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(bytes);
+        out.close();
+
+        TestSupport::TempDefaults defaults;
+        NotificationCenter center;
+        AudioManager engine(defaults.store(), center);
+        bool loaded = true;
+        engine.processAudioFile(path, [&](bool ok) { loaded = ok; });
+        EXPECT_FALSE(loaded) << patch.name;
+        EXPECT_TRUE(engine.lastError().contains("cannot be")) << qPrintable(engine.lastError());
+        EXPECT_FALSE(engine.lastError().contains('\n'));
+    }
+}
