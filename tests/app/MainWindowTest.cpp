@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QGraphicsOpacityEffect>
+#include <QLineEdit>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
@@ -240,11 +241,13 @@ TEST(ClosePrompt, SaveWritesTheChosenTranscriptThenCloses)
     QObject::connect(&panelAnswer, &QTimer::timeout, [&] {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             auto* panel = qobject_cast<QFileDialog*>(widget);
-            // Tried again on every tick until the panel takes it: a panel
-            // still listing its folder may not accept at once.
+            // The file's name is typed into the panel, as a learner would;
+            // a panel still listing its folder may not take it at once.
             if (panel && panel->isVisible()) {
-                panel->selectFile(chosen);
-                QMetaObject::invokeMethod(panel, &QDialog::accept, Qt::QueuedConnection);
+                if (auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+                    name->setText(chosen);
+                if (panel->selectedFiles().value(0) == chosen)
+                    static_cast<QDialog*>(panel)->done(QDialog::Accepted);
             }
         }
     });
