@@ -10,6 +10,7 @@
 
 #include "BenchSupport.h"
 #include "WindowBenchSupport.h"
+#include "app/AutoSaveQueue.h"
 #include "app/MainWindowController.h"
 #include "app/SessionServices.h"
 #include "app/ViewController.h"
@@ -58,11 +59,12 @@ Opening openOnce(const QString& file)
     regDefaultPreference(defaults);
     NotificationCenter center;
     DocumentManager documents(dir.path());
+    AutoSaveQueue autoSave;
     AudioManager engine(defaults, center);
     engine.setOutputFactory(
         [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
     TranscriptionManager transcriptions([&engine] { return engine.getTotalDuration(); });
-    MainWindowController window(SessionServices{engine, center, defaults, transcriptions, documents});
+    MainWindowController window(SessionServices{engine, center, defaults, transcriptions, documents, autoSave});
     window.resize(1280, 800);
     window.show();
     QApplication::processEvents();

@@ -4,6 +4,7 @@
 #include "app/IconManager.h"
 #include "app/RecentDocuments.h"
 #include "app/ViewController.h"
+#include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
@@ -12,10 +13,12 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QToolBar>
 
@@ -79,15 +82,14 @@ void MainWindowController::setupToolbar()
     connect(settings, &QAction::triggered, this, &MainWindowController::preferencesRequested);
     settings->setEnabled(false); // the preferences window is not built yet
     QAction* import = add("import", "import", Texts::ToolbarImport, Texts::TipImport);
-    connect(import, &QAction::triggered, this, &MainWindowController::importRequested);
-    import->setEnabled(false); // importing a transcript comes with the session's persistence
+    connect(import, &QAction::triggered, this,
+            [this] { m_viewController->importTranscription(); });
     QAction* clear = add("clear", "clear", Texts::ToolbarClear, Texts::TipClear);
-    connect(clear, &QAction::triggered, this, &MainWindowController::clearRequested);
-    clear->setEnabled(false); // clearing comes with the session's persistence
+    connect(clear, &QAction::triggered, this,
+            [this] { m_viewController->clearTranscription(); });
     QAction* music = add("importFromMusicLibrary", "music", Texts::ToolbarMusic, Texts::TipMusic);
     connect(music, &QAction::triggered, this,
-            &MainWindowController::importFromMusicLibraryRequested);
-    music->setEnabled(false); // the music-folder road is not built yet
+            &MainWindowController::toolbarItemImportFromMusicLibrary);
 }
 
 void MainWindowController::setupMenus()
@@ -159,6 +161,39 @@ void MainWindowController::playStatusDidChange()
     if (m_playPauseButton)
         m_playPauseButton->setIcon(IconManager::shared().iconForName(
             m_engine.isPlaying() ? QStringLiteral("play") : QStringLiteral("pause")));
+}
+
+void MainWindowController::toolbarItemImportFromMusicLibrary()
+{
+    // Fewer types than the Open panel offers, as the music folder has always had.
+    static const QStringList extensions{QStringLiteral("mp3"), QStringLiteral("m4r"),
+                                        QStringLiteral("m4a"), QStringLiteral("wav"),
+                                        QStringLiteral("aac"), QStringLiteral("flac")};
+    auto* panel = new QFileDialog(this);
+    panel->setObjectName(QStringLiteral("musicLibraryPanel"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setNameFilter(
+        Dialogs::nameFilterForExtensions(LocalizedString(Texts::ToolbarMusic), extensions));
+    panel->setDirectory(QStandardPaths::writableLocation(QStandardPaths::MusicLocation));
+    panel->setWindowModality(Qt::WindowModal);
+    connect(panel, &QFileDialog::fileSelected, this,
+            &MainWindowController::handleSelectedMusicFile);
+    panel->open();
+}
+
+void MainWindowController::handleSelectedMusicFile(const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    // Only a file that opens as audio goes on; the rest of the road is the
+    // direct one, without the Open panel's checks.
+    AudioDecoder decoder;
+    if (!decoder.open(path)) {
+        Dialogs::showMsg(LocalizedString(Texts::ErrorOpeningFile), decoder.errorString());
+        return;
+    }
+    m_viewController->openFileFromPath(path);
 }
 
 void MainWindowController::toolbarItemRepeat()

@@ -36,14 +36,16 @@ public:
     // Rebuilds the Open Recent menu from the stored list.
     void rebuildRecentMenu();
 
+    // A panel starting in the user's music folder; the chosen file goes the
+    // direct road once it opens as audio ("Error Opening File" otherwise).
+    void toolbarItemImportFromMusicLibrary();
+    void handleSelectedMusicFile(const QString& path);
+
 signals:
     void preferencesRequested();
     void checkForUpdatesRequested();
     void helpRequested();
     void sizePresetRequested(int width, int height);
-    void importRequested();
-    void clearRequested();
-    void importFromMusicLibraryRequested();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

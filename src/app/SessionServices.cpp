@@ -1,5 +1,6 @@
 #include "app/SessionServices.h"
 
+#include "app/AutoSaveQueue.h"
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "preferences/Defaults.h"
@@ -10,5 +11,5 @@ SessionServices SessionServices::shared()
 {
     return {AudioManager::sharedInstance(), NotificationCenter::defaultCenter(),
             Defaults::standard(), TranscriptionManager::sharedInstance(),
-            DocumentManager::shared()};
+            DocumentManager::shared(), AutoSaveQueue::shared()};
 }

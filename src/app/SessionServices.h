@@ -1,6 +1,7 @@
 #pragma once
 
 class AudioManager;
+class AutoSaveQueue;
 class Defaults;
 class DocumentManager;
 class NotificationCenter;
@@ -15,6 +16,7 @@ struct SessionServices
     Defaults& defaults;
     TranscriptionManager& transcriptions;
     const DocumentManager& documents;
+    AutoSaveQueue& autoSave;
 
     static SessionServices shared();
 };

@@ -92,6 +92,7 @@ void ViewController::didSelectSegmentAtIndex(qint64 index)
         stopAutoUpdateWavePos();
         playSegement(index);
     }
+    autoSaveTranscription();
 }
 
 void ViewController::startAutoUpdateWavePosTimer(int intervalMs)

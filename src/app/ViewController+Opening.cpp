@@ -1,6 +1,7 @@
 // Opening a file: the engine's analysis on a worker, then the window shows
 // what the engine holds and plays the first segment.
 
+#include "app/BookmarkStore.h"
 #include "app/Dialogs.h"
 #include "app/LoadingIndicator.h"
 #include "app/RecentDocuments.h"
@@ -13,10 +14,15 @@
 #include "views/WaveformView.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 #include <QThreadPool>
 #include <QTimer>
+#include <cerrno>
+#include <cstring>
+#include <sys/stat.h>
 
 void ViewController::openFileFromPath(const QString& path)
 {
@@ -70,6 +76,14 @@ void ViewController::finishOpening(bool success, const QString& path)
     qInfo("File name with extension: %s", qUtf8Printable(file.fileName()));
     changeWindowTitle(file.completeBaseName());
 
+    showEngineSegmentsAndPlay();
+    RecentDocuments(m_defaults).add(path);
+    if (m_openingFinished)
+        m_openingFinished(success);
+}
+
+void ViewController::showEngineSegmentsAndPlay()
+{
     m_segmentsShown = m_engine.numberOfSegments();
     m_waveformView->updateWithSegments(m_engine.segments());
     m_waveformView->updateWaveformData(m_engine.waveformData());
@@ -85,9 +99,6 @@ void ViewController::finishOpening(bool success, const QString& path)
             self->preparePlaySegment();
     });
     updateStatusBar();
-    RecentDocuments(m_defaults).add(path);
-    if (m_openingFinished)
-        m_openingFinished(success);
 }
 
 void ViewController::showAnalysisProgress()
@@ -171,18 +182,70 @@ void ViewController::typeCheckFinished(const QString& path, bool valid)
                   LocalizedString(Texts::SelectSupportedAudioFile));
         return;
     }
-    const QFileInfo file(path);
-    if (!file.exists() || !file.isReadable()) {
+    // The attributes as the file system gives them; its own words on failure.
+    struct stat attributes {};
+    if (::stat(QFile::encodeName(path).constData(), &attributes) != 0) {
         showError(LocalizedString(Texts::FileAccessError),
-                  QStringLiteral("The file “%1” could not be read.").arg(file.fileName()));
+                  QString::fromLocal8Bit(std::strerror(errno)));
         return;
     }
+    const qint64 size = attributes.st_size;
     constexpr qint64 kLimitMB = 1024;
-    if (file.size() > kLimitMB * 1024 * 1024) {
+    if (size > kLimitMB * 1024 * 1024) {
         showError(LocalizedString(Texts::FileTooLarge),
                   stringWithFormat(LocalizedString(Texts::SelectSmallerFile),
                                    {QString::number(kLimitMB)}));
         return;
     }
     processAudioFile();
+}
+
+void ViewController::requestDirectoryAccess(
+    const QString& folder, const std::function<void(bool, const QString&)>& completion)
+{
+    if (folder.isEmpty()) {
+        completion(false, QString());
+        return;
+    }
+    if (BookmarkStore::startAccessingDirectory(folder)) {
+        completion(true, folder);
+        return;
+    }
+    auto* panel = new QFileDialog(window());
+    panel->setObjectName(QStringLiteral("grantAccessPanel"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::Directory);
+    panel->setOption(QFileDialog::ShowDirsOnly);
+    panel->setDirectory(folder);
+    panel->setLabelText(QFileDialog::LookIn, LocalizedString(Texts::GrantFolderAccessMessage));
+    panel->setWindowTitle(LocalizedString(Texts::GrantFolderAccessMessage));
+    panel->setLabelText(QFileDialog::Accept, LocalizedString(Texts::GrantAccess));
+    panel->setWindowModality(Qt::WindowModal);
+    QPointer<ViewController> self(this);
+    connect(panel, &QFileDialog::finished, this, [self, panel, completion](int result) {
+        const QStringList chosen = panel->selectedFiles();
+        if (result != QDialog::Accepted || chosen.isEmpty() || self.isNull()) {
+            completion(false, QString());
+            return;
+        }
+        const QString directory = chosen.first();
+        const QByteArray bookmark = BookmarkStore::bookmarkDataForDirectory(directory);
+        if (bookmark.isEmpty()) {
+            qInfo("Error creating directory bookmark: %s", qUtf8Printable(directory));
+            completion(false, QString());
+            return;
+        }
+        BookmarkStore(self.data()->m_defaults)
+            .saveBookmarkData(bookmark, QStringLiteral("LastDirectoryBookmark"));
+        if (BookmarkStore::startAccessingDirectory(directory))
+            completion(true, directory);
+        else
+            completion(false, QString());
+    });
+    panel->open();
+}
+
+void ViewController::restoreLastAudioFile()
+{
+    BookmarkStore(m_defaults).restoreLastAudioFile();
 }

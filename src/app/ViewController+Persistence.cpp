@@ -1,24 +1,53 @@
-// The rows of the table for the file that was opened, and saving what was typed.
+// The rows of the table for the file that was opened, and saving what was
+// typed: in the background as the learner moves on, by export, on close.
 
+#include "app/AutoSaveQueue.h"
 #include "app/Dialogs.h"
 #include "app/FileIdentity.h"
 #include "app/ViewController.h"
 #include "audio/AudioManager.h"
-#include "transcript/TranscriptionManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "transcript/DocumentManager.h"
+#include "transcript/TranscriptionManager.h"
 #include "views/TranscriptionTableView.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-
+#include <QPointer>
+#include <QStandardPaths>
 #include <QStringList>
+
+QString ViewController::transcriptionStorePath() const
+{
+    const std::optional<QString> identifier =
+        FileIdentity::uniqueIdentifierForFileAtPath(m_currentAudioPath);
+    if (!identifier)
+        return {};
+    return FileIdentity::transcriptionPathForIdentifier(*identifier, m_documents);
+}
 
 void ViewController::initTranscription()
 {
-    // Saved transcripts are not read back yet: every opening starts with one
-    // empty row per segment.
-    initEmptyTranscriptions();
+    const QString path = transcriptionStorePath();
+    if (path.isEmpty() || !m_transcriptions.loadTranscriptionsFromFile(path)) {
+        qInfo("Failed to load transcription");
+        initEmptyTranscriptions();
+        return;
+    }
+    // A transcript with fewer rows than there are segments belongs to another
+    // cutting; it is ignored, not merged.
+    if (m_transcriptions.transcriptions().size() < m_engine.numberOfSegments()) {
+        initEmptyTranscriptions();
+        return;
+    }
+    // The boundaries the file was typed under come back with its texts.
+    if (!m_engine.updateSegments(m_transcriptions.mutableSegments())) {
+        initEmptyTranscriptions();
+        return;
+    }
+    m_table->updateTranscriptions(m_transcriptions.transcriptions());
 }
 
 void ViewController::initEmptyTranscriptions()
@@ -39,6 +68,27 @@ void ViewController::stageTranscriptions(TranscriptionManager& store) const
         store.setTranscription(m_table->generateLRCStringForText(texts[i], i), i);
 }
 
+void ViewController::autoSaveTranscription()
+{
+    if (m_autoSave.isThrottled())
+        return;
+    const QStringList& texts = m_table->mutableTranscriptions();
+    if (texts.isEmpty() || m_currentAudioPath.isEmpty())
+        return;
+    // The job gets copies: it must not read the table or the engine, which
+    // this thread goes on changing.
+    AutoSaveQueue::Snapshot snapshot;
+    snapshot.audioPath = m_currentAudioPath;
+    snapshot.transcriptionsFolder =
+        m_documents.pathForFilename(DocumentManager::TranscriptionsFolder);
+    snapshot.texts = texts;
+    const SegmentList& segments = m_engine.segments();
+    snapshot.starts.reserve(texts.size());
+    for (qsizetype i = 0; i < texts.size(); ++i)
+        snapshot.starts.append(i < segments.size() ? segments[i].start : 0.0);
+    m_autoSave.enqueue(std::move(snapshot));
+}
+
 bool ViewController::saveTranscriptionToSandbox()
 {
     const std::optional<QString> identifier =
@@ -57,10 +107,16 @@ void ViewController::saveTranscriptionWithCompletion(const std::function<void(bo
 {
     // Saving on close overwrites a transcript the learner picks, deliberately
     // an existing one.
+    std::optional<Dialogs::FileSelectionError> error;
     const std::optional<QString> path =
-        Dialogs::asyncSelectFileWithExtensions({QStringLiteral("lrc")});
+        Dialogs::asyncSelectFileWithExtensions({QStringLiteral("lrc")}, &error);
+    if (error) {
+        qInfo("Error: %s", qUtf8Printable(error->localizedDescription));
+        completion(false);
+        return;
+    }
     if (!path) {
-        qInfo("Error: User cancelled file selection");
+        qInfo("No file selected");
         completion(false);
         return;
     }
@@ -98,4 +154,76 @@ void ViewController::exportTranscriptionTo(const QString& path)
     else
         Dialogs::showMsg(LocalizedString(Texts::SaveError),
                          LocalizedString(Texts::ErrorWritingToFile));
+}
+
+void ViewController::importTranscription()
+{
+    if (isProcessing() || m_engine.numberOfSegments() == 0) {
+        showError(LocalizedString(Texts::Warning), LocalizedString(Texts::OpenAudioFileFirst));
+        return;
+    }
+    std::optional<Dialogs::FileSelectionError> error;
+    const std::optional<QString> path =
+        Dialogs::asyncSelectFileWithExtensions({QStringLiteral("lrc")}, &error);
+    if (error) {
+        qInfo("Error: %s", qUtf8Printable(error->localizedDescription));
+        return;
+    }
+    if (!path) {
+        qInfo("importTranscription filepath is nil");
+        return;
+    }
+    importTranscriptionFrom(*path);
+}
+
+void ViewController::importTranscriptionFrom(const QString& path)
+{
+    qInfo("Selected file: %s", qUtf8Printable(path));
+    if (!m_transcriptions.loadTranscriptionsFromFile(path)) {
+        Dialogs::showModalAlert(LocalizedString(Texts::Error),
+                                LocalizedString(Texts::FailedToLoadTranscription),
+                                LocalizedString(Texts::OK));
+        return;
+    }
+    const QStringList texts = m_transcriptions.transcriptions();
+    const SegmentList segments = m_transcriptions.mutableSegments();
+    const double end = segments.isEmpty() ? 0.0 : segments.last().start + segments.last().duration;
+    if (m_engine.getTotalDuration() >= end) {
+        // Rows and boundaries change together or not at all.
+        if (m_engine.updateSegments(segments))
+            m_table->updateTranscriptions(texts);
+    } else {
+        showError(LocalizedString(Texts::InvalidFile),
+                  LocalizedString(Texts::LyricDurationTooLong));
+    }
+    showEngineSegmentsAndPlay();
+}
+
+void ViewController::clearTranscription()
+{
+    if (isProcessing() || m_engine.numberOfSegments() == 0)
+        return;
+    QPointer<ViewController> self(this);
+    Dialogs::showAlertWithTitle(
+        LocalizedString(Texts::Warning), LocalizedString(Texts::ConfirmClearDictation),
+        LocalizedString(Texts::OK), LocalizedString(Texts::Cancel), window(),
+        [self](bool confirmed) {
+            if (!confirmed || self.isNull())
+                return;
+            ViewController* session = self.data();
+            // The table's report of row 0 that follows starts the usual save.
+            session->initEmptyTranscriptions();
+            session->playFirstSegment();
+        });
+}
+
+QString ViewController::applicationSupportDirectory()
+{
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (path.isEmpty() || !QDir().mkpath(path)) {
+        qInfo("Error creating application support directory: %s",
+              qUtf8Printable(path.isEmpty() ? QStringLiteral("no data location") : path));
+        return {};
+    }
+    return path;
 }

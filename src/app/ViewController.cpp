@@ -1,6 +1,7 @@
 #include "app/ViewController.h"
 
 #include "app/IconManager.h"
+#include "app/KeyDownMonitor.h"
 #include "app/LoadingIndicator.h"
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
@@ -37,7 +38,7 @@ constexpr int kFollowIntervalMs = 300;
 ViewController::ViewController(const SessionServices& services, QWidget* parent)
     : QWidget(parent), m_engine(services.engine), m_center(services.center),
       m_defaults(services.defaults), m_transcriptions(services.transcriptions),
-      m_documents(services.documents),
+      m_documents(services.documents), m_autoSave(services.autoSave),
       m_analysisQueue(std::make_unique<QThreadPool>())
 {
     m_analysisQueue->setMaxThreadCount(1);
@@ -48,6 +49,8 @@ ViewController::ViewController(const SessionServices& services, QWidget* parent)
     m_table->setTranscriptionDelegate(this);
     m_waveformView->setTranscriptionDelegate(this);
     listenNotifications();
+    // Key presses anywhere in the window reach the six shortcuts first.
+    new KeyDownMonitor(*this, m_defaults, this);
     setupStatusBar();
     setupConstraints();
     showUIElement();

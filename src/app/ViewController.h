@@ -10,6 +10,7 @@
 #include <memory>
 
 class AudioManager;
+class AutoSaveQueue;
 class Defaults;
 class LoadingIndicator;
 class NotificationCenter;
@@ -63,6 +64,12 @@ public:
     void setOpeningFinishedHandler(std::function<void(bool success)> handler);
     void showLoadingIndicator();
     void hideLoadingIndicator();
+    // Reaches a folder: at once when it can be read, else through a panel
+    // asking the learner to choose it (the choice is remembered).
+    void requestDirectoryAccess(const QString& folder,
+                                const std::function<void(bool granted, const QString&)>& completion);
+    // Checks the remembered folder; it does not reopen anything.
+    void restoreLastAudioFile();
 
     // ---- Navigation (ViewController+Navigation.cpp) ----
     void playSegement(qint64 index);
@@ -94,6 +101,15 @@ public:
     // Export through a save panel proposing "<audio name>.lrc".
     void saveTranscription();
     void exportTranscriptionTo(const QString& path);
+    // Throttled save into the store on the auto-save thread.
+    void autoSaveTranscription();
+    void importTranscription();
+    // The import after its file was chosen.
+    void importTranscriptionFrom(const QString& path);
+    void clearTranscription();
+    // The application's data folder, created when missing; empty (and a log
+    // line) when it cannot be.
+    static QString applicationSupportDirectory();
 
     // ---- Status bar and title (ViewController+StatusBar.cpp) ----
     void updateStatusBar();
@@ -121,6 +137,10 @@ private:
     void finishOpening(bool success, const QString& path);
     void showAnalysisProgress();
     void typeCheckFinished(const QString& path, bool valid);
+    // The engine's segments and peaks into the views, segment 0 current and
+    // playing: the end of an opening and of an import.
+    void showEngineSegmentsAndPlay();
+    QString transcriptionStorePath() const;
     void stageTranscriptions(TranscriptionManager& store) const;
 
     AudioManager& m_engine;
@@ -128,6 +148,7 @@ private:
     Defaults& m_defaults;
     TranscriptionManager& m_transcriptions;
     const DocumentManager& m_documents;
+    AutoSaveQueue& m_autoSave;
 
     TranscriptionTableView* m_table = nullptr;
     QWidget* m_waveformContainer = nullptr;

@@ -1,5 +1,7 @@
 #include "app/WindowHarness.h"
 
+#include "app/AutoSaveQueue.h"
+#include "app/FileIdentity.h"
 #include "app/MainWindowController.h"
 #include "app/ViewController.h"
 #include "audio/AudioManager.h"
@@ -31,6 +33,7 @@ WindowHarness::WindowHarness(const QString& language)
     regDefaultPreference(m_defaults.store());
     m_center = std::make_unique<NotificationCenter>();
     m_documents = std::make_unique<DocumentManager>(m_documentsDir.path());
+    m_documents->createDirectory(DocumentManager::TranscriptionsFolder);
     m_engine = std::make_unique<AudioManager>(m_defaults.store(), *m_center);
     m_engine->setOutputFactory(
         [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
@@ -42,9 +45,10 @@ WindowHarness::WindowHarness(const QString& language)
         m_language = std::make_unique<LanguageManager>(m_defaults.store(), *m_center, *m_bundle);
         m_language->installStartupTranslator();
     }
+    m_autoSave = std::make_unique<AutoSaveQueue>([this] { return m_autoSaveNow; });
     m_window = std::make_unique<MainWindowController>(
         SessionServices{*m_engine, *m_center, m_defaults.store(), *m_transcriptions,
-                        *m_documents});
+                        *m_documents, *m_autoSave});
     m_window->resize(1280, 800);
     m_window->show();
     QApplication::processEvents();
@@ -53,9 +57,24 @@ WindowHarness::WindowHarness(const QString& language)
 WindowHarness::~WindowHarness()
 {
     m_window.reset();
+    m_autoSave.reset();
     if (m_language)
         m_language->removeStartupTranslator();
     QApplication::processEvents();
+}
+
+void WindowHarness::finishAutoSaves()
+{
+    m_autoSave->waitForDone();
+    QApplication::processEvents();
+}
+
+QString WindowHarness::storePath()
+{
+    const std::optional<QString> identifier =
+        FileIdentity::uniqueIdentifierForFileAtPath(session().currentAudioPath());
+    return identifier ? FileIdentity::transcriptionPathForIdentifier(*identifier, *m_documents)
+                      : QString();
 }
 
 ViewController& WindowHarness::session()

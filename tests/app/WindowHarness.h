@@ -11,6 +11,7 @@
 #include <memory>
 
 class AudioManager;
+class AutoSaveQueue;
 class DocumentManager;
 class LanguageBundle;
 class LanguageManager;
@@ -35,6 +36,14 @@ public:
     NotificationCenter& center() { return *m_center; }
     Defaults& defaults() { return m_defaults.store(); }
     QString documentsPath() const { return m_documentsDir.path(); }
+    AutoSaveQueue& autoSave() { return *m_autoSave; }
+    // The auto-save's clock, which moves only when a test moves it (it starts
+    // well past the five-second throttle of the first save).
+    void advanceAutoSaveClock(double seconds) { m_autoSaveNow += seconds; }
+    // Waits for queued auto-saves and lets their main-thread lines run.
+    void finishAutoSaves();
+    // Where the open file's transcript is stored (empty with no file).
+    QString storePath();
 
     // Opens through the direct road and waits for the window to show the
     // result; false when it did not finish in time.
@@ -50,6 +59,8 @@ private:
     std::unique_ptr<DocumentManager> m_documents;
     std::unique_ptr<TranscriptionManager> m_transcriptions;
     std::unique_ptr<AudioManager> m_engine;
+    double m_autoSaveNow = 1000.0;
+    std::unique_ptr<AutoSaveQueue> m_autoSave;
     std::unique_ptr<LanguageBundle> m_bundle;
     std::unique_ptr<LanguageManager> m_language;
     std::unique_ptr<MainWindowController> m_window;

@@ -1,0 +1,86 @@
+#include "app/KeyDownMonitor.h"
+
+#include "app/ViewController.h"
+#include "preferences/Keyboard.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/ShortcutBindings.h"
+#include "views/TranscriptionTableView.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+KeyDownMonitor::KeyDownMonitor(ViewController& session, Defaults& defaults, QObject* parent)
+    : QObject(parent), m_session(session), m_defaults(defaults)
+{
+    if (QCoreApplication* app = QCoreApplication::instance())
+        app->installEventFilter(this);
+}
+
+KeyDownMonitor::~KeyDownMonitor()
+{
+    if (QCoreApplication* app = QCoreApplication::instance())
+        app->removeEventFilter(this);
+}
+
+bool KeyDownMonitor::isOtherTextInput(const QWidget* focus) const
+{
+    if (!focus)
+        return false;
+    const bool textInput = qobject_cast<const QLineEdit*>(focus) ||
+                           qobject_cast<const QTextEdit*>(focus) ||
+                           qobject_cast<const QPlainTextEdit*>(focus) ||
+                           qobject_cast<const QAbstractSpinBox*>(focus);
+    const auto* combo = qobject_cast<const QComboBox*>(focus);
+    if (!textInput && !(combo && combo->isEditable()))
+        return false;
+    return !m_session.transcriptionTableView()->isAncestorOf(focus);
+}
+
+bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    // A key press reaches the filter once for the window and once for each
+    // widget it is offered to; the first widget is the one that decides.
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if (!widget || widget->window() != m_session.window())
+        return false;
+    if (isOtherTextInput(QApplication::focusWidget()))
+        return false;
+
+    const KeyStroke stroke = Keyboard::keyStrokeForEvent(*static_cast<QKeyEvent*>(event));
+    if (!stroke.isValid())
+        return false;
+    // Read afresh each time: a shortcut changed in the preferences applies
+    // to the very next key press.
+    const std::optional<ShortcutAction> action = matchStoredShortcut(
+        ObjectStorage(m_defaults), stroke.keyCode, stroke.rawModifierFlags);
+    if (!action)
+        return false;
+    switch (*action) {
+    case ShortcutAction::PreviousSegment:
+        m_session.playPreviousSegment();
+        break;
+    case ShortcutAction::NextSegment:
+        m_session.playNextSegment();
+        break;
+    case ShortcutAction::PlayPause:
+        m_session.togglePlayPause();
+        break;
+    case ShortcutAction::RepeatPlay:
+        m_session.toggleRepeat(nullptr);
+        break;
+    case ShortcutAction::PlayFirst:
+        m_session.playFirstSegment();
+        break;
+    case ShortcutAction::SplitAudio:
+        m_session.processAudioFile();
+        break;
+    }
+    return true;
+}

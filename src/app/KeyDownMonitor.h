@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+class Defaults;
+class ViewController;
+
+// The six playback shortcuts, for the whole application: an event filter on
+// the application object that sees every key press before any widget does.
+// A press in the main window that matches a stored shortcut runs its command
+// and goes no further; anything else reaches its widget untouched.
+//
+// A dictation row's editor is not a reason to stand aside: the learner types
+// there and steps through the segments with the same hands. Any other text
+// input (a dialog's field, a future search box) keeps all of its keys.
+class KeyDownMonitor : public QObject
+{
+    Q_OBJECT
+public:
+    // Installs itself on the application; goes away with its parent.
+    KeyDownMonitor(ViewController& session, Defaults& defaults, QObject* parent = nullptr);
+    ~KeyDownMonitor() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool isOtherTextInput(const QWidget* focus) const;
+
+    ViewController& m_session;
+    Defaults& m_defaults;
+};
