@@ -4,6 +4,7 @@
 #include "app/ViewController.h"
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
+#include "common/Clock.h"
 #include "views/TranscriptionTableView.h"
 #include "views/WaveformView.h"
 
@@ -135,12 +136,11 @@ void ViewController::updateCurrentSegmentIndex()
         // out, so that the learner can type.
         playNextSegment();
         if (m_pauseTimer)
-            m_pauseTimer->deleteLater();
-        auto* timer = new QTimer(this);
-        timer->setSingleShot(true);
-        connect(timer, &QTimer::timeout, this, [this] { m_engine.pausePlayback(); });
-        timer->start(100);
-        m_pauseTimer = timer;
+            m_pauseTimer->invalidate();
+        // The timer dies with this controller, so the engine outlives it.
+        AudioManager* engine = &m_engine;
+        m_pauseTimer =
+            m_engine.clock().scheduledTimer(0.1, false, [engine] { engine->pausePlayback(); });
         return;
     }
     if (!m_waveformView->isHidden() &&
@@ -171,13 +171,12 @@ void ViewController::toggleRepeat(QAction* sender)
     const double rate = m_engine.currentRate() > 0.0f ? m_engine.currentRate() : 1.0;
     const double left = (segment.start + segment.duration - now) / rate;
     if (m_playbackTimer)
-        m_playbackTimer->deleteLater();
-    auto* timer = new QTimer(this);
-    timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, this, [this] {
-        QMetaObject::invokeMethod(this, &ViewController::preparePlaySegment, Qt::QueuedConnection);
+        m_playbackTimer->invalidate();
+    QPointer<ViewController> self(this);
+    m_playbackTimer = m_engine.clock().scheduledTimer(std::max(0.0, left), false, [self] {
+        if (!self.isNull())
+            QMetaObject::invokeMethod(self.data(), &ViewController::preparePlaySegment,
+                                      Qt::QueuedConnection);
     });
-    timer->start(static_cast<int>(std::max(0.0, left) * 1000.0));
-    m_playbackTimer = timer;
     updateStatusBar();
 }

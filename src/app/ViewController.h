@@ -11,6 +11,7 @@
 
 class AudioManager;
 class AutoSaveQueue;
+class Timer;
 class Defaults;
 class LoadingIndicator;
 class NotificationCenter;
@@ -169,8 +170,9 @@ private:
 
     QTimer* m_autoUpdateWavePosTimer = nullptr;
     QTimer* m_progressTimer = nullptr; // reads the analysis fraction while a load runs
-    QPointer<QTimer> m_pauseTimer;
-    QPointer<QTimer> m_playbackTimer; // the repeat switch's end of segment
+    // One-shot timers on the engine's clock, so that tests can run them.
+    std::shared_ptr<Timer> m_pauseTimer;
+    std::shared_ptr<Timer> m_playbackTimer; // the repeat switch's end of segment
 
     // Loads run one after another on their own thread; the engine is not
     // touched from here while one runs.

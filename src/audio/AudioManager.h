@@ -125,6 +125,8 @@ public:
 
     // Timers come from this clock (the system clock unless a test says otherwise).
     void setClock(Clock& clock) { m_clock = &clock; }
+    // The same clock, for the session's timers that count in playing time.
+    Clock& clock() const { return *m_clock; }
     // Makes the device output of each new player (the default device when unset).
     void setOutputFactory(OutputFactory factory) { m_outputFactory = std::move(factory); }
     AudioPlayer* audioPlayer() const { return m_audioPlayer.get(); }

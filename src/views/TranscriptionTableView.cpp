@@ -195,8 +195,15 @@ void TranscriptionTableView::focusEditor(int row)
 
 void TranscriptionTableView::mousePressEvent(QMouseEvent* event)
 {
+    const int clicked = rowAt(event->position().toPoint().y());
+    const bool alreadySelected =
+        clicked >= 0 && selectionModel()->isRowSelected(clicked, QModelIndex());
     QTableView::mousePressEvent(event);
-    int row = rowAt(event->position().toPoint().y());
+    // A click on the row that is already selected changes no selection, yet
+    // the session hears of it as of any other (it saves on every report).
+    if (alreadySelected && m_reportSelection && m_transcriptionDelegate)
+        m_transcriptionDelegate->didSelectSegmentAtIndex(clicked);
+    int row = clicked;
     if (row < 0)
         row = int(m_currentIndex);
     if (row >= 0 && row < rowCount())

@@ -63,6 +63,11 @@ WindowHarness::~WindowHarness()
     QApplication::processEvents();
 }
 
+void WindowHarness::setClock(Clock& clock)
+{
+    m_engine->setClock(clock);
+}
+
 void WindowHarness::finishAutoSaves()
 {
     m_autoSave->waitForDone();

@@ -12,6 +12,7 @@
 
 class AudioManager;
 class AutoSaveQueue;
+class Clock;
 class DocumentManager;
 class LanguageBundle;
 class LanguageManager;
@@ -37,6 +38,8 @@ public:
     Defaults& defaults() { return m_defaults.store(); }
     QString documentsPath() const { return m_documentsDir.path(); }
     AutoSaveQueue& autoSave() { return *m_autoSave; }
+    // Runs the engine's and the session's timers on the given clock.
+    void setClock(Clock& clock);
     // The auto-save's clock, which moves only when a test moves it (it starts
     // well past the five-second throttle of the first save).
     void advanceAutoSaveClock(double seconds) { m_autoSaveNow += seconds; }

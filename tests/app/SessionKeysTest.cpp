@@ -1,0 +1,214 @@
+// The six shortcuts while the learner types in a dictation row, and repeat
+// mode counting its plays on a virtual clock.
+
+#include "../playback/VirtualClock.h"
+#include "app/MainWindowController.h"
+#include "app/ViewController.h"
+#include "app/WindowHarness.h"
+#include "audio/AudioManager.h"
+#include "preferences/KeyboardShortcut.h"
+#include "preferences/ObjectStorage.h"
+#include "support/TestSupport.h"
+#include "transcript/LrcLine.h"
+#include "views/TranscriptionTableView.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using TestSupport::fixture;
+
+namespace {
+
+class SessionKeys : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QApplication::setActiveWindow(&h.window());
+        ASSERT_TRUE(h.open(fixture("speech.wav")));
+        table = h.session().transcriptionTableView();
+        segments = h.engine().numberOfSegments();
+        ASSERT_GE(segments, 3);
+        ASSERT_TRUE(focusInRow(0));
+    }
+
+    bool focusInRow(int row)
+    {
+        return waitFor([&] { return QApplication::focusWidget() == table->editorForRow(row); });
+    }
+
+    // A key press as the window system delivers it: to the focused widget.
+    void press(int key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+        QApplication::processEvents();
+    }
+
+    void storeShortcut(const char* key, qint64 keyCode, quint64 flags)
+    {
+        ObjectStorage(h.defaults()).setKeyboardShortcut(KeyboardShortcut(keyCode, flags), key);
+    }
+
+    qint64 current() { return h.session().currentSegmentIndex(); }
+
+    WindowHarness h;
+    TranscriptionTableView* table = nullptr;
+    qsizetype segments = 0;
+};
+
+} // namespace
+
+TEST_F(SessionKeys, ArrowsStepThroughSegmentsFromTheRowBeingTyped)
+{
+    // On the first segment, previous and first do nothing.
+    press(Qt::Key_Up);
+    EXPECT_EQ(current(), 0);
+    press(Qt::Key_Slash, Qt::ControlModifier);
+    EXPECT_EQ(current(), 0);
+    EXPECT_EQ(h.engine().currentSegmentIndex(), 0);
+
+    press(Qt::Key_Down);
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(h.engine().currentSegmentIndex(), 1);
+    EXPECT_TRUE(h.engine().isPlaying());
+    EXPECT_TRUE(focusInRow(1)) << "the editor follows the current row";
+
+    for (qsizetype i = 1; i < segments - 1; ++i)
+        press(Qt::Key_Down);
+    EXPECT_EQ(current(), segments - 1);
+    press(Qt::Key_Down);
+    EXPECT_EQ(current(), 0) << "after the last segment comes the first";
+
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Slash, Qt::ControlModifier);
+    EXPECT_EQ(current(), 0);
+    press(Qt::Key_Down);
+    press(Qt::Key_Up);
+    EXPECT_EQ(current(), 0);
+    // The row got none of these keys as text.
+    EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
+}
+
+TEST_F(SessionKeys, ReturnPausesAndResumesAndControlRTogglesRepeat)
+{
+    ASSERT_TRUE(h.engine().isPlaying());
+    press(Qt::Key_Return);
+    EXPECT_FALSE(h.engine().isPlaying());
+    EXPECT_TRUE(h.session().statusText().contains(" | Pause | ")) << h.session().statusText().toStdString();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(h.engine().isPlaying());
+
+    const bool repeat = h.engine().isRepeatMode();
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_NE(h.engine().isRepeatMode(), repeat);
+    // Caps Lock changes the letter's case, not the shortcut.
+    QKeyEvent capsPress(QEvent::KeyPress, Qt::Key_R, Qt::ControlModifier, 0, 0, 0x2, "R");
+    QApplication::sendEvent(QApplication::focusWidget(), &capsPress);
+    EXPECT_EQ(h.engine().isRepeatMode(), repeat);
+    EXPECT_EQ(table->mutableTranscriptions().value(0), QString());
+}
+
+TEST_F(SessionKeys, LettersAndUnboundKeysReachTheRow)
+{
+    QTest::keyClicks(QApplication::focusWidget(), "ab");
+    press(Qt::Key_Left);
+    QTest::keyClicks(QApplication::focusWidget(), "X");
+    EXPECT_EQ(table->mutableTranscriptions().value(0), "aXb");
+    EXPECT_EQ(current(), 0);
+
+    // Another text input in the window keeps every key, bound or not.
+    auto* search = new QLineEdit(&h.window());
+    search->show();
+    search->setFocus();
+    ASSERT_TRUE(waitFor([&] { return QApplication::focusWidget() == search; }));
+    press(Qt::Key_Down);
+    QTest::keyClicks(search, "r");
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(current(), 0);
+    EXPECT_EQ(search->text(), "r");
+    delete search;
+}
+
+TEST_F(SessionKeys, AStoredShiftShortcutMatchesShiftAloneAndIsReadOnEveryPress)
+{
+    constexpr qint64 kKeyN = 45; // N on the ANSI layout
+    storeShortcut("kNextSegmentShortcut", kKeyN, ModifierFlag::Shift);
+    press(Qt::Key_N);
+    EXPECT_EQ(current(), 0);
+    press(Qt::Key_N, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(current(), 0);
+    EXPECT_EQ(table->mutableTranscriptions().value(0), "n") << "an unbound key is typed";
+    press(Qt::Key_N, Qt::ShiftModifier);
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(table->mutableTranscriptions().value(0), "n");
+
+    // Two commands on one key: the earlier in the table wins (previous).
+    storeShortcut("kPreviousSegmentShortcut", kKeyN, ModifierFlag::Shift);
+    press(Qt::Key_N, Qt::ShiftModifier);
+    EXPECT_EQ(current(), 0);
+}
+
+TEST_F(SessionKeys, F2CutsTheFileAgainAndReloadsItsStoredTranscript)
+{
+    QTest::keyClicks(QApplication::focusWidget(), "unsaved");
+    // A transcript stored meanwhile (as another save would have left it).
+    const QString store = h.storePath();
+    QStringList lines;
+    for (qsizetype i = 0; i < segments; ++i)
+        lines.append(Lrc::formatLine(h.engine().segments()[i].start, QStringLiteral("row %1").arg(i)));
+    {
+        QFile file(store);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(lines.join(u'\n').toUtf8());
+    }
+    bool finished = false;
+    h.session().setOpeningFinishedHandler([&](bool) { finished = true; });
+    press(Qt::Key_F2);
+    ASSERT_TRUE(waitFor([&] { return finished; }));
+    h.session().setOpeningFinishedHandler({});
+    EXPECT_EQ(table->mutableTranscriptions().value(0), "row 0");
+    EXPECT_EQ(table->mutableTranscriptions().value(segments - 1),
+              QStringLiteral("row %1").arg(segments - 1));
+    EXPECT_EQ(current(), 0);
+}
+
+TEST(SessionRepeat, EachSegmentPlaysThePreferredNumberOfTimesThenTheNextStarts)
+{
+    VirtualClock clock;
+    WindowHarness h;
+    h.setClock(clock);
+    QApplication::setActiveWindow(&h.window());
+    h.engine().setRepeatTimes(3);
+    h.engine().setRepeatMode(false);
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    ASSERT_TRUE(waitFor([&] {
+        return QApplication::focusWidget() ==
+               h.session().transcriptionTableView()->editorForRow(0);
+    }));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_R, Qt::ControlModifier);
+    ASSERT_TRUE(h.engine().isRepeatMode());
+
+    const Segment first = h.engine().segments()[0];
+    const double nextStart = h.engine().segments()[1].start;
+    int plays = 1;
+    // Each pass: the end of the segment, the main thread's turn, and so on;
+    // a few virtual seconds more than one play cover the gap to the next start.
+    for (int step = 0; step < 40 && h.session().currentSegmentIndex() == 0; ++step) {
+        clock.advance(0.25);
+        QApplication::processEvents();
+        plays = static_cast<int>(h.engine().currentSegmentRepeatedTimes());
+        if (h.session().currentSegmentIndex() == 0) {
+            EXPECT_LE(plays, 3);
+        }
+    }
+    EXPECT_EQ(h.session().currentSegmentIndex(), 1);
+    EXPECT_EQ(h.engine().currentSegmentIndex(), 1);
+    EXPECT_TRUE(h.engine().isPlaying());
+    // Three plays of segment 0 take at least three times its length.
+    EXPECT_GE(clock.now(), 3 * std::min(first.duration, nextStart - first.start) - 0.3);
+}
