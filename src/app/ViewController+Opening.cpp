@@ -149,11 +149,17 @@ void ViewController::openFile()
                                    std::optional<Dialogs::FileSelectionError>) {
             if (self.isNull() || !path)
                 return;
-            qInfo("file:%s", qUtf8Printable(*path));
-            ViewController* session = self.data();
-            session->m_currentAudioPath = *path;
-            session->handleSelectedFile(*path);
+            self.data()->openFileChosen(*path);
         });
+}
+
+void ViewController::openFileChosen(const QString& path)
+{
+    qInfo("file:%s", qUtf8Printable(path));
+    // The session names the file before it is checked, and keeps the name
+    // when the check refuses it.
+    m_currentAudioPath = path;
+    handleSelectedFile(path);
 }
 
 void ViewController::handleSelectedFile(const QString& path)

@@ -50,6 +50,8 @@ public:
     // ---- Opening (ViewController+Opening.cpp) ----
     // The checked road: the open panel, then the type and size checks.
     void openFile();
+    // What the Open panel does with the file the learner chose.
+    void openFileChosen(const QString& path);
     void handleSelectedFile(const QString& path);
     static bool isValidAudioFile(const QString& path);
     static const QStringList& audioFileExtensions();

@@ -1,0 +1,133 @@
+// What the store survives: a folder that turns read-only, a full disk, a
+// store file that is not text. Each leaves the last good transcript as it
+// was, byte for byte, and the session running.
+//
+// The binary runs in a private mount namespace (see CMakeLists.txt), where it
+// may mount small file systems over the store folder.
+
+#include "app/AutoSaveQueue.h"
+#include "app/MainWindowController.h"
+#include "app/ViewController.h"
+#include "app/WindowHarness.h"
+#include "audio/AudioManager.h"
+#include "support/TestSupport.h"
+#include "transcript/DocumentManager.h"
+#include "views/TranscriptionTableView.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+
+using TestSupport::fixture;
+
+namespace {
+
+QByteArray readAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class SessionFaults : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        store = h.documentsPath() + "/" + DocumentManager::TranscriptionsFolder;
+        // A small file system of its own over the store folder.
+        if (::mount("kelmora-test", QFile::encodeName(store).constData(), "tmpfs", 0,
+                    "size=64k") != 0)
+            GTEST_SKIP() << "no private mount namespace here: " << std::strerror(errno);
+        mounted = true;
+        QApplication::setActiveWindow(&h.window());
+        ASSERT_TRUE(h.open(fixture("lesson_95s.wav")));
+        table = h.session().transcriptionTableView();
+        ASSERT_TRUE(waitFor([&] { return QApplication::focusWidget() == table->editorForRow(0); }));
+        QTest::keyClicks(QApplication::focusWidget(), "good text");
+        saveBySelecting(1);
+        saved = readAll(h.storePath());
+        ASSERT_TRUE(saved.contains("good text"));
+    }
+
+    void TearDown() override
+    {
+        if (mounted)
+            ::umount2(QFile::encodeName(store).constData(), MNT_DETACH);
+    }
+
+    // Selecting a row after the throttle has passed starts an auto-save.
+    void saveBySelecting(int row)
+    {
+        h.advanceAutoSaveClock(AutoSaveQueue::kThrottleSeconds);
+        table->setCurrentSegment(row);
+        QApplication::processEvents();
+        h.finishAutoSaves();
+    }
+
+    QStringList storeFolderEntries() const
+    {
+        return QDir(store).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    WindowHarness h;
+    QString store;
+    bool mounted = false;
+    TranscriptionTableView* table = nullptr;
+    QByteArray saved;
+};
+
+} // namespace
+
+TEST_F(SessionFaults, AStoreFolderThatTurnedReadOnlyKeepsTheLastTranscript)
+{
+    ASSERT_EQ(::mount(nullptr, QFile::encodeName(store).constData(), nullptr,
+                      MS_REMOUNT | MS_RDONLY, nullptr),
+              0)
+        << std::strerror(errno);
+    table->updateTranscription("lost for now", 1);
+    saveBySelecting(2);
+    EXPECT_EQ(readAll(h.storePath()), saved);
+    EXPECT_EQ(storeFolderEntries().size(), 1);
+    // The learner carries on.
+    EXPECT_EQ(h.session().currentSegmentIndex(), 2);
+    EXPECT_TRUE(h.engine().isPlaying());
+    EXPECT_EQ(table->mutableTranscriptions().value(1), "lost for now");
+}
+
+TEST_F(SessionFaults, AFullDiskKeepsTheLastTranscriptAndLeavesNoPartFile)
+{
+    // More than the 64 KiB the store's file system holds.
+    table->updateTranscription(QString(100 * 1024, u'x'), 1);
+    saveBySelecting(2);
+    EXPECT_EQ(readAll(h.storePath()), saved);
+    EXPECT_EQ(storeFolderEntries(), QStringList{QFileInfo(h.storePath()).fileName()});
+    EXPECT_EQ(h.session().currentSegmentIndex(), 2);
+
+    // Room again: the next save goes through.
+    table->updateTranscription("short again", 1);
+    saveBySelecting(3);
+    EXPECT_TRUE(readAll(h.storePath()).contains("short again"));
+}
+
+TEST_F(SessionFaults, AStoreFileThatIsNotTextOrIsOneHugeLineOpensWithEmptyRows)
+{
+    for (const QByteArray& content :
+         {QByteArray("[00:00.000]caf\xe9 \xff\xfe not UTF-8\n[00:01.000]x"),
+          QByteArray("[00:00.000]") + QByteArray(10 * 1024 * 1024, 'a')}) {
+        ::umount2(QFile::encodeName(store).constData(), MNT_DETACH);
+        mounted = false;
+        {
+            QFile file(h.storePath());
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(content);
+        }
+        ASSERT_TRUE(h.open(fixture("lesson_95s.wav")));
+        EXPECT_EQ(table->model()->rowCount(), h.engine().numberOfSegments());
+        EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
+        EXPECT_TRUE(h.engine().isPlaying());
+    }
+}
