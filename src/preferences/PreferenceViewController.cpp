@@ -46,7 +46,6 @@ QLabel* buddyLabel(const char* text, QWidget* control)
 {
     auto* label = new QLabel(LocalizedString(text));
     label->setBuddy(control);
-    label->setWordWrap(true);
     control->setAccessibleName(LocalizedString(text));
     return label;
 }

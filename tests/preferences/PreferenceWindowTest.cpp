@@ -101,8 +101,11 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     EXPECT_FLOAT_EQ(restarted.maxRepeatPlayTimes(), 20.0f);
     Defaults& e = d;
 
-    for (const char* name : {"showLineNumbersSwitch", "showAudioWaveSwitch", "showStatusBarSwitch"})
-        QTest::mouseClick(f.control<QCheckBox>(name), Qt::LeftButton);
+    f.window->findChild<QTabWidget*>()->setCurrentIndex(1);
+    for (const char* name : {"showLineNumbersSwitch", "showAudioWaveSwitch", "showStatusBarSwitch"}) {
+        auto* box = f.control<QCheckBox>(name);
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2)); // the box itself
+    }
     EXPECT_FALSE(e.boolForKey(ShowLineNumbers));
     EXPECT_FALSE(e.boolForKey(ShowAudioWave));
     EXPECT_FALSE(e.boolForKey(ShowStatusBar));
@@ -110,7 +113,6 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
                                      "ShowStatusBarDidChange"}));
     EXPECT_EQ(f.objects[0], QVariant(false));
 
-    f.window->findChild<QTabWidget*>()->setCurrentIndex(1);
     auto* well = f.control<ColorWell>("tableBackgroundColorWell");
     QTest::mouseClick(well, Qt::LeftButton);
     auto* colors = openDialog<QColorDialog>(f.window.get(), "colorDialog");
