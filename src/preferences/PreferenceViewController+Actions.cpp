@@ -26,11 +26,15 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <cmath>
 
 void PreferenceViewController::saveEngineSettings()
 {
-    // The window has no sensitivity control; 1 is what it always stores.
-    m_engine.saveSettings(m_minSegmentDurationStepper->value(), 1, m_playSpeedStepper->value());
+    // The window has no sensitivity control; 1 is what it always stores. The
+    // values are kept to the steps shown, not to the sum of binary tenths.
+    const double duration = std::round(m_minSegmentDurationStepper->value() * 100.0) / 100.0;
+    const double speed = std::round(m_playSpeedStepper->value() * 10.0) / 10.0;
+    m_engine.saveSettings(duration, 1, speed);
 }
 
 void PreferenceViewController::stepperValueChanged()

@@ -92,8 +92,11 @@ def main(argv):
     command = argv[1]
     if command == "wait-window":
         title = argv[2]
+        # A main window is a frame; a plain top-level window (the preferences)
+        # is whatever its widget is, but always a child of the application.
         until(lambda app: next((n for n in walk(app)
-                                if role(n) == "frame" and n.get_name() == title), None),
+                                if n.get_name() == title and
+                                (role(n) == "frame" or n.get_parent() == app)), None),
               "window " + title)
         print(title)
     elif command == "rows":

@@ -66,7 +66,7 @@ click() { # NAME: a left click in the middle of the named control
 # The play speed: two presses of Up, each written to the settings file at once.
 click "Play speed"
 xdotool key Up Up
-settings="$XDG_CONFIG_HOME/Kelmora/Kelmora.conf"
+settings="$XDG_CONFIG_HOME/Kelmora/Kelmora.ini"
 for _ in $(seq 25); do grep -q '^kPlaySpeed=1.2' "$settings" 2>/dev/null && break; sleep 0.2; done
 grep -q '^kPlaySpeed=1.2' "$settings" || fail "kPlaySpeed not 1.2: $(grep kPlaySpeed "$settings" || true)"
 echo "play speed: $(probe text 'Play speed'), stored $(grep '^kPlaySpeed' "$settings")"
@@ -82,14 +82,16 @@ shown="$(probe text 'Next segment')"
 [ "$shown" = "⇧N" ] || fail "the field shows '$shown'"
 echo "next segment field: $shown (Ctrl+Q ignored)"
 
+# Without a window manager Xvfb's root picture leaves a second window black;
+# the window's own picture is what it shows.
 mkdir -p "$shots"
-xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
-ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/real-preferences.png"
+xwd -id "$prefs" -silent -display "$DISPLAY" > "$work/prefs.xwd"
+ffmpeg -nostdin -v error -y -i "$work/prefs.xwd" "$shots/real-preferences.png"
 
 # A new language: the restart prompt, then a new kelmora in Russian.
 click "General"
 # The pop-up opens on English; Russian is the eighth item.
-click "Language"
+click "English" # a pop-up is named by its current item
 sleep 0.3
 for _ in $(seq 7); do xdotool key Down; done
 xdotool key Return
