@@ -4,7 +4,6 @@
 
 #include <QColorDialog>
 #include <QPainter>
-#include <QStyleOptionButton>
 
 ColorWell::ColorWell(QWidget* parent) : QPushButton(parent)
 {
@@ -39,8 +38,6 @@ void ColorWell::paintEvent(QPaintEvent* event)
 {
     QPushButton::paintEvent(event);
     QPainter painter(this);
-    QStyleOptionButton option;
-    initStyleOption(&option);
     const QRect swatch = rect().adjusted(6, 6, -6, -6);
     painter.setPen(QPen(palette().color(QPalette::Mid), 1));
     painter.setBrush(m_color);
