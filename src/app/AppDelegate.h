@@ -5,8 +5,12 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
+#include <functional>
 
+class LanguageManager;
 class MainWindowController;
+class PreferenceViewController;
 class ViewController;
 
 // The application-level commands: start-up, opening a file the desktop hands
@@ -35,9 +39,30 @@ public:
 
     MainWindowController* mainWindowController() const { return m_mainWindowController; }
 
+    // The preferences window, made on first use and kept; each call centres
+    // and shows it.
+    void showPreferences();
+    PreferenceViewController* preferenceWindowController() const;
+    // The shared language manager unless a test gives its own.
+    void setLanguageManager(LanguageManager& language) { m_language = &language; }
+
+    // Closes the main window (its save prompt may still keep it open); once it
+    // has really closed, starts this program again with the same arguments
+    // and quits. A cancelled prompt cancels the restart.
+    void restartApp();
+    using ProcessStarter = std::function<bool(const QString& program, const QStringList& arguments)>;
+    // How the new process is started (QProcess::startDetached unless a test
+    // says otherwise).
+    void setProcessStarter(ProcessStarter starter) { m_startProcess = std::move(starter); }
+
 private:
     ViewController* session() const;
+    void mainWindowClosed();
 
     SessionServices m_services;
     QPointer<MainWindowController> m_mainWindowController;
+    QPointer<PreferenceViewController> m_preferenceWindowController;
+    LanguageManager* m_language = nullptr;
+    ProcessStarter m_startProcess;
+    bool m_restartPending = false;
 };

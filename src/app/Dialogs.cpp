@@ -63,7 +63,7 @@ void Dialogs::showMsg(const QString& title, const QString& message)
     onMainThread([title, message] {
         QWidget* window = mainWindow();
         QMessageBox* box = makeWarning(title, message, window);
-        box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        box->addButton(LocalizedString(Texts::OK), QMessageBox::AcceptRole);
         QObject::connect(box, &QMessageBox::finished, box, [] { qInfo("User clicked OK"); });
         if (window) {
             box->setWindowModality(Qt::WindowModal);
