@@ -2,11 +2,12 @@
 
 #include "app/Dialogs.h"
 #include "app/MainWindowController.h"
-#include "app/MainWindowController.h"
+#include "app/UpdateAlertSheets.h"
 #include "app/ViewController.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "transcript/DocumentManager.h"
+#include "update/CheckAppUpdate.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -22,6 +23,8 @@ AppDelegate::AppDelegate(const SessionServices& services, QObject* parent)
 
 AppDelegate::~AppDelegate()
 {
+    // The checker's pending answer must not reach alerts that are gone.
+    delete m_updateChecker;
     delete m_mainWindowController;
 }
 
@@ -33,6 +36,8 @@ void AppDelegate::applicationDidFinishLaunching()
     MainWindowController* window = m_mainWindowController;
     connect(window, &MainWindowController::helpRequested, this, &AppDelegate::showHelp);
     connect(window, &MainWindowController::sizePresetRequested, this, &AppDelegate::changeSize);
+    connect(window, &MainWindowController::checkForUpdatesRequested, this,
+            &AppDelegate::checkUpdate);
     window->show();
     continueStartup();
 }
@@ -98,4 +103,13 @@ void AppDelegate::showHelp()
         return;
     Dialogs::showModalAlert(LocalizedString(Texts::Help), localizedHelpText(),
                             LocalizedString(Texts::OK));
+}
+
+void AppDelegate::checkUpdate()
+{
+    if (!m_updateChecker) {
+        m_updateAlerts = std::make_unique<UpdateAlertSheets>(m_mainWindowController.data());
+        m_updateChecker = new CheckAppUpdate(m_services.defaults, *m_updateAlerts, this);
+    }
+    m_updateChecker->checkForUpdates(true);
 }

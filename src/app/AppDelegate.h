@@ -5,8 +5,11 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <memory>
 
+class CheckAppUpdate;
 class MainWindowController;
+class UpdateAlertSheets;
 class ViewController;
 
 // The application-level commands: start-up, opening a file the desktop hands
@@ -35,9 +38,15 @@ public:
 
     MainWindowController* mainWindowController() const { return m_mainWindowController; }
 
+    // Help > Check for Updates…: one reported lookup, its answer as a sheet on
+    // the main window.
+    void checkUpdate();
+
 private:
     ViewController* session() const;
 
     SessionServices m_services;
     QPointer<MainWindowController> m_mainWindowController;
+    std::unique_ptr<UpdateAlertSheets> m_updateAlerts;
+    CheckAppUpdate* m_updateChecker = nullptr;
 };
