@@ -10,6 +10,7 @@
 #include "update/CheckAppUpdate.h"
 
 #include <QAction>
+#include <QDir>
 #include <QMessageBox>
 #include <QNetworkProxy>
 #include <QPushButton>
@@ -101,6 +102,8 @@ TEST_F(UpdateCheckWindowTest, UpdateOpensTheStorePageOnlyWhenItIsAWebAddress)
     EXPECT_EQ(sheet->informativeText(),
               "Version 1.1.0 is available.\n\nRelease Notes:\nPedal support.");
     EXPECT_EQ(buttonTexts(sheet), QStringList({"Update", "Later"}));
+    QDir().mkpath(KELMORA_SCREENSHOT_DIR);
+    sheet->grab().save(KELMORA_SCREENSHOT_DIR "/update-available.png");
     press(sheet, "Later");
     EXPECT_TRUE(opened.isEmpty());
 
