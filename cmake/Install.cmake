@@ -1,6 +1,7 @@
 # What `cmake --install` puts where on a Linux desktop: the programs, the help
-# page, the desktop entry with its icons and MIME type, the AppStream metadata
-# and the package's documents. The translations are compiled into the program.
+# page, the desktop entry with its icons and MIME type, the AppStream metadata,
+# the manual pages and the package's documents. The translations are compiled
+# into the program.
 
 include(GNUInstallDirs)
 
@@ -46,6 +47,19 @@ else()
   message(WARNING "rsvg-convert not found: only the scalable icon is installed "
     "(scripts/install-deps installs librsvg2-bin)")
 endif()
+
+# The manual pages, compressed as man expects.
+set(man_pages)
+foreach(page kelmora kelmora-cli)
+  set(man_gz "${CMAKE_BINARY_DIR}/man/${page}.1.gz")
+  add_custom_command(OUTPUT "${man_gz}"
+    COMMAND ${CMAKE_COMMAND} -E make_directory "${CMAKE_BINARY_DIR}/man"
+    COMMAND gzip -9nc "${PROJECT_SOURCE_DIR}/resources/man/${page}.1" > "${man_gz}"
+    DEPENDS "${PROJECT_SOURCE_DIR}/resources/man/${page}.1")
+  list(APPEND man_pages "${man_gz}")
+endforeach()
+add_custom_target(kelmora_man_pages ALL DEPENDS ${man_pages})
+install(FILES ${man_pages} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 
 # The package's documents, where Debian looks for them. The changelog goes
 # compressed without a time stamp, so that two builds give the same file.

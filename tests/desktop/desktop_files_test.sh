@@ -44,7 +44,8 @@ for path in bin/kelmora bin/kelmora-cli share/applications/$id.desktop \
             share/metainfo/$id.metainfo.xml share/mime/packages/kelmora.xml \
             share/icons/hicolor/scalable/apps/$id.svg share/icons/hicolor/48x48/apps/$id.png \
             share/icons/hicolor/256x256/apps/$id.png share/kelmora/help.html \
-            share/doc/kelmora/copyright share/doc/kelmora/changelog.Debian.gz; do
+            share/doc/kelmora/copyright share/doc/kelmora/changelog.Debian.gz \
+            share/man/man1/kelmora.1.gz share/man/man1/kelmora-cli.1.gz; do
   [ -s "$work/usr/$path" ] || fail "cmake --install left out $path"
 done
 for size in 48 256; do
