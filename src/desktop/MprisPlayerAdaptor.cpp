@@ -53,13 +53,10 @@ void MprisPlayerAdaptor::Previous()
     m_service->previous();
 }
 
-void MprisPlayerAdaptor::Seek(qlonglong)
-{
-}
+// CanSeek is false: the learner moves by segment, so positions are ignored.
+void MprisPlayerAdaptor::Seek(qlonglong) {}
 
-void MprisPlayerAdaptor::SetPosition(const QDBusObjectPath&, qlonglong)
-{
-}
+void MprisPlayerAdaptor::SetPosition(const QDBusObjectPath&, qlonglong) {}
 
 void MprisPlayerAdaptor::OpenUri(const QString& uri)
 {

@@ -179,9 +179,9 @@ void MprisService::propertiesChanged(const QVariantMap& properties)
 {
     if (!m_registered)
         return;
-    QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(ObjectPath),
-                                                     QStringLiteral("org.freedesktop.DBus.Properties"),
-                                                     QStringLiteral("PropertiesChanged"));
+    QDBusMessage signal = QDBusMessage::createSignal(
+        QLatin1String(ObjectPath), QStringLiteral("org.freedesktop.DBus.Properties"),
+        QStringLiteral("PropertiesChanged"));
     signal << QLatin1String(PlayerInterface) << properties << QStringList();
     m_bus.send(signal);
 }

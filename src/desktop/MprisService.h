@@ -22,7 +22,12 @@ public:
     static constexpr const char* BusName = "org.mpris.MediaPlayer2.kelmora";
     static constexpr const char* ObjectPath = "/org/mpris/MediaPlayer2";
 
-    enum class Claim { Owned, OwnedElsewhere, NoBus };
+    enum class Claim
+    {
+        Owned,
+        OwnedElsewhere,
+        NoBus
+    };
 
     MprisService(AudioManager& engine, NotificationCenter& center,
                  const QDBusConnection& bus = QDBusConnection::sessionBus(),

@@ -152,7 +152,8 @@ void CheckAppUpdate::handleReply(QNetworkReply* reply, bool reportLatest, bool t
     if (tooLarge || failed || httpError) {
         QString description;
         if (tooLarge)
-            description = QStringLiteral("The answer is larger than %1 bytes.").arg(kMaxAnswerBytes);
+            description =
+                QStringLiteral("The answer is larger than %1 bytes.").arg(kMaxAnswerBytes);
         else if (reply->error() == QNetworkReply::OperationCanceledError)
             description = QStringLiteral("The request timed out.");
         else

@@ -28,8 +28,7 @@ public:
     QList<QVariantMap> changes;
 
 public slots:
-    void propertiesChanged(const QString& interface, const QVariantMap& changed,
-                           const QStringList&)
+    void propertiesChanged(const QString& interface, const QVariantMap& changed, const QStringList&)
     {
         if (interface == QLatin1String("org.mpris.MediaPlayer2.Player"))
             changes << changed;

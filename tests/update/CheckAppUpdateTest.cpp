@@ -228,8 +228,8 @@ TEST_F(CheckAppUpdateTest, AnUnreachableServiceShowsTheTransportError)
 TEST_F(CheckAppUpdateTest, HttpErrorsAndSilentServicesEndInTheTransportError)
 {
     // An error status fails the check whatever its body says.
-    for (const QByteArray& body : {QByteArray("<html>Internal Server Error</html>"),
-                                   QByteArray(R"({"results":[]})")}) {
+    for (const QByteArray& body :
+         {QByteArray("<html>Internal Server Error</html>"), QByteArray(R"({"results":[]})")}) {
         alerts.shown.clear();
         server.answer(500, body);
         check(true);
