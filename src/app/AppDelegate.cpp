@@ -2,12 +2,14 @@
 
 #include "app/Dialogs.h"
 #include "app/MainWindowController.h"
+#include "app/UpdateAlertSheets.h"
 #include "app/ViewController.h"
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "preferences/PreferenceViewController.h"
 #include "transcript/DocumentManager.h"
+#include "update/CheckAppUpdate.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -26,6 +28,8 @@ AppDelegate::AppDelegate(const SessionServices& services, QObject* parent)
 AppDelegate::~AppDelegate()
 {
     delete m_preferenceWindowController;
+    // The checker's pending answer must not reach alerts that are gone.
+    delete m_updateChecker;
     delete m_mainWindowController;
 }
 
@@ -42,6 +46,8 @@ void AppDelegate::applicationDidFinishLaunching()
     connect(window, &MainWindowController::windowClosed, this, &AppDelegate::mainWindowClosed);
     connect(window, &MainWindowController::closeCancelled, this,
             [this] { m_restartPending = false; });
+    connect(window, &MainWindowController::checkForUpdatesRequested, this,
+            &AppDelegate::checkUpdate);
     window->show();
     continueStartup();
 }
@@ -154,6 +160,7 @@ void AppDelegate::mainWindowClosed()
     if (!m_restartPending)
         return;
     m_restartPending = false;
+    emit aboutToRestart();
     const QString program = QCoreApplication::applicationFilePath();
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     const bool started = m_startProcess ? m_startProcess(program, arguments)
@@ -163,4 +170,13 @@ void AppDelegate::mainWindowClosed()
     // Every window is closed by now; exit() leaves the event loop without
     // asking them again.
     QCoreApplication::exit(0);
+}
+
+void AppDelegate::checkUpdate()
+{
+    if (!m_updateChecker) {
+        m_updateAlerts = std::make_unique<UpdateAlertSheets>(m_mainWindowController.data());
+        m_updateChecker = new CheckAppUpdate(m_services.defaults, *m_updateAlerts, this);
+    }
+    m_updateChecker->checkForUpdates(true);
 }

@@ -7,10 +7,13 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <memory>
 
 class LanguageManager;
 class MainWindowController;
 class PreferenceViewController;
+class CheckAppUpdate;
+class UpdateAlertSheets;
 class ViewController;
 
 // The application-level commands: start-up, opening a file the desktop hands
@@ -54,6 +57,13 @@ public:
     // How the new process is started (QProcess::startDetached unless a test
     // says otherwise).
     void setProcessStarter(ProcessStarter starter) { m_startProcess = std::move(starter); }
+    // Help > Check for Updates…: one reported lookup, its answer as a sheet on
+    // the main window.
+    void checkUpdate();
+
+signals:
+    // Just before a restart starts the new process.
+    void aboutToRestart();
 
 private:
     ViewController* session() const;
@@ -65,4 +75,6 @@ private:
     LanguageManager* m_language = nullptr;
     ProcessStarter m_startProcess;
     bool m_restartPending = false;
+    std::unique_ptr<UpdateAlertSheets> m_updateAlerts;
+    CheckAppUpdate* m_updateChecker = nullptr;
 };

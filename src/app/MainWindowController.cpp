@@ -129,7 +129,7 @@ void MainWindowController::setupMenus()
     QMenu* help = menuBar()->addMenu(LocalizedString(Texts::Help));
     QAction* updates = help->addAction(LocalizedString(Texts::MenuCheckForUpdates));
     connect(updates, &QAction::triggered, this, &MainWindowController::checkForUpdatesRequested);
-    updates->setEnabled(false); // the update alerts are not built yet
+    updates->setObjectName(QStringLiteral("menuCheckForUpdates"));
     QAction* guide = help->addAction(LocalizedString(Texts::MenuKelmoraHelp));
     guide->setShortcut(QKeySequence::HelpContents);
     connect(guide, &QAction::triggered, this, &MainWindowController::helpRequested);
