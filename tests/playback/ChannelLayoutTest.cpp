@@ -13,8 +13,8 @@
 #include <QTemporaryDir>
 #include <chrono>
 #include <cmath>
-#include <thread>
 #include <gtest/gtest.h>
+#include <thread>
 
 using namespace PlayerTest;
 using TestSupport::fixture;
