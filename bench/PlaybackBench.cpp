@@ -172,11 +172,13 @@ void positionError(const QString& path, bool realDevice)
         player->play();
         std::this_thread::sleep_for(std::chrono::milliseconds(500));
         std::vector<double> errors;
+        std::vector<double> latencies;
         double buffer = 0;
         for (int i = 0; i < 600; ++i) {
             const FrameTag handed = player->handedFrame();
             const double now = player->currentTime();
             buffer = std::max(buffer, player->output()->latency());
+            latencies.push_back(player->output()->latency());
             // What is being heard lags what is handed over by the device's
             // buffer, in source seconds at this rate.
             errors.push_back(std::abs(handed.position - now));
@@ -184,11 +186,11 @@ void positionError(const QString& path, bool realDevice)
         }
         player->pause();
         std::printf("   %s, %.1fx: |currentTime - frame being handed| median %.1f ms, max %.1f ms; "
-                    "device buffer %.0f ms (%.0f ms of source at this rate)\n",
+                    "device latency median %.1f ms, max %.0f ms (%.0f ms of source at this rate)\n",
                     realDevice ? qPrintable(player->output()->description())
                                : "null device (100 ms modelled)",
                     double(rate), percentile(errors, 0.5) * 1000, percentile(errors, 1.0) * 1000,
-                    buffer * 1000, buffer * double(rate) * 1000);
+                    percentile(latencies, 0.5) * 1000, buffer * 1000, buffer * double(rate) * 1000);
     }
 }
 

@@ -278,6 +278,7 @@ void DecodedBuffer::interleavedS16(int16_t* out) const
 
 struct AudioDecoder::Impl
 {
+    QString path;
     FormatContextPtr format;
     CodecContextPtr codec;
     PacketPtr packet{av_packet_alloc()};
@@ -318,6 +319,7 @@ bool AudioDecoder::open(const QString& path)
     const bool conform = d->conform;
     d = std::make_unique<Impl>();
     d->conform = conform;
+    d->path = path;
     AVFormatContext* raw = nullptr;
     const QByteArray encoded = path.toUtf8();
     int rc = avformat_open_input(&raw, encoded.constData(), nullptr, nullptr);
@@ -515,6 +517,18 @@ bool AudioDecoder::seek(double seconds)
     d->inputDone = false;
     d->flushed = false;
     d->buffer.m_frame = nullptr;
+    return true;
+}
+
+bool AudioDecoder::rewind()
+{
+    // A fresh opening starts at the first packet with an empty index: a seek
+    // to zero goes by time stamps, which a joined file may repeat further on.
+    const int skipped = d->skipped;
+    const QString path = d->path; // open() replaces what holds it
+    if (!open(path) || !openCodec())
+        return false;
+    d->skipped = skipped;
     return true;
 }
 

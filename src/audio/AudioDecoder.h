@@ -95,6 +95,8 @@ public:
     // caller drops what precedes its target; codecs that carry state from frame
     // to frame (MP3, AAC) need to start a little earlier still to run in.
     bool seek(double seconds);
+    // Back to the first packet of the file, whatever its time stamps say.
+    bool rewind();
 
     // Number of undecodable packets skipped so far (a damaged stretch of a file
     // is passed over, as players do, rather than failing the whole file).

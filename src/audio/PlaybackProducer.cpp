@@ -19,6 +19,9 @@ namespace {
 
 constexpr qsizetype kBlock = 1024;   // frames per stretcher call
 constexpr qsizetype kMinChunk = 256; // smallest write worth waking for
+// A buffer dated this much before the frames counted so far means the file's
+// time stamps run back; smaller differences are codecs' rounding.
+constexpr double kRunBack = 0.1;
 
 int64_t steadyNs()
 {
@@ -168,17 +171,17 @@ void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end)
     m_spanEnded = false;
     m_dropUntil = std::llround(m_target * m_sampleRate);
     m_pendingFrames = m_pendingOffset = 0;
-    m_needTimestamp = true;
     m_inputDone = false;
     m_finished = false;
     m_endReported = false;
     m_firstWritten = false;
     m_errorReported = false;
     m_skippedSeen = m_decoder.skippedPackets();
-    const double from = std::max(m_target - m_runIn, 0.0);
+    const double from = m_timestampsRunBack ? 0.0 : std::max(m_target - m_runIn, 0.0);
     m_nextFrame = std::llround(from * m_sampleRate);
+    m_needTimestamp = !m_timestampsRunBack;
     m_converter->reset();
-    if (!m_decoder.seek(m_streamStart + from)) {
+    if (!(m_timestampsRunBack ? m_decoder.rewind() : m_decoder.seek(m_streamStart + from))) {
         m_positioned = false;
         if (m_events.decodeError)
             m_events.decodeError(m_decoder.errorString());
@@ -322,15 +325,24 @@ bool PlaybackProducer::decodeNext()
         const qsizetype frames = converted->nb_samples;
         if (frames <= 0)
             continue;
+        const double start = buffer.startTime();
         if (m_needTimestamp) {
             // The first buffer after a seek says where it starts; from there on
             // frames are counted. A first frame dated before the stream start
             // is the file's first frame, whose delay the codec has trimmed.
             m_needTimestamp = false;
-            const double start = buffer.startTime();
             if (start >= 0.0)
                 m_nextFrame =
                     std::max<int64_t>(std::llround((start - m_streamStart) * m_sampleRate), 0);
+        } else if (!m_timestampsRunBack && start >= 0.0 &&
+                   start - m_streamStart < double(m_nextFrame) / m_sampleRate - kRunBack) {
+            // Parts joined without renumbering (a FLAC whose later frames
+            // count from zero again): one time stamp now names two places, and
+            // FFmpeg's index, which keeps the last place read for each, sends
+            // a seek into the wrong part. From here on the file is not
+            // indexed, and seeks count frames from its start.
+            m_timestampsRunBack = true;
+            m_indexed = true;
         }
         const int64_t first = m_nextFrame;
         m_nextFrame += frames;

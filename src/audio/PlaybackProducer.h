@@ -99,6 +99,7 @@ private:
     float m_rate = 1.0f;
     bool m_positioned = false;
     bool m_indexed = false;
+    bool m_timestampsRunBack = false; // seeks then count frames from the start
     uint32_t m_seek = 0;
     double m_target = 0.0;
     double m_spanEnd = -1.0;  // source seconds where this span stops, or -1

@@ -22,10 +22,16 @@ void TimeStretcher::reset(double rate)
     // A new stretcher made at the target ratio rather than reset(): a reset one
     // remembers its earlier ratio and eases from it, so the same segment would
     // sound slightly different depending on what was played before.
-    m_stretcher = std::make_unique<RubberBandStretcher>(
-        static_cast<size_t>(m_sampleRate), static_cast<size_t>(m_channels),
-        RubberBandStretcher::OptionProcessRealTime | RubberBandStretcher::OptionEngineFiner,
-        1.0 / rate, 1.0);
+    // Sped up, every second heard takes in several seconds of source; the
+    // short window keeps 3.0x affordable. Slowed speech, where the learner
+    // listens hardest, keeps the standard window.
+    RubberBandStretcher::Options options =
+        RubberBandStretcher::OptionProcessRealTime | RubberBandStretcher::OptionEngineFiner;
+    if (rate > 1.0)
+        options |= RubberBandStretcher::OptionWindowShort;
+    m_stretcher = std::make_unique<RubberBandStretcher>(static_cast<size_t>(m_sampleRate),
+                                                        static_cast<size_t>(m_channels), options,
+                                                        1.0 / rate, 1.0);
     m_stretcher->setMaxProcessSize(static_cast<size_t>(m_maxBlock));
 }
 

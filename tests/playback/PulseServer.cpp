@@ -30,6 +30,8 @@ bool run(const QString& program, const QStringList& args, const QProcessEnvironm
     return p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
 }
 
+const QString kSilenceStream = QStringLiteral("kelmora-test-silence");
+
 } // namespace
 
 std::unique_ptr<PulseServer> PulseServer::start(QString* whyNot)
@@ -54,11 +56,12 @@ std::unique_ptr<PulseServer> PulseServer::start(QString* whyNot)
     // Without rewinds the sink never renders a stretch twice, which its
     // monitor would record twice. On a busy machine a starved server drops
     // audio; as root it is given precedence, as the recorder is.
-    QStringList command{QStringLiteral("pulseaudio"),
-                        QStringLiteral("--daemonize=yes"),
-                        QStringLiteral("-n"),
-                        QStringLiteral("--exit-idle-time=-1"),
+    QStringList command{QStringLiteral("pulseaudio"), QStringLiteral("--daemonize=yes"),
+                        QStringLiteral("-n"), QStringLiteral("--exit-idle-time=-1"),
                         QStringLiteral("--use-pid-file=yes"),
+                        // Its debug log names every stream that ran dry.
+                        QStringLiteral("--log-level=debug"),
+                        QStringLiteral("--log-target=file:") + server->logPath(),
                         QStringLiteral("--load=module-null-sink sink_name=testsink rate=48000 "
                                        "channels=2 norewinds=1"),
                         QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 "
@@ -93,7 +96,8 @@ std::unique_ptr<PulseServer> PulseServer::start(QString* whyNot)
     server->m_silence.setProcessEnvironment(env);
     server->m_silence.setStandardInputFile(QStringLiteral("/dev/zero"));
     server->m_silence.start(QStringLiteral("pacat"),
-                            {QStringLiteral("-p"), QStringLiteral("--latency-msec=20")});
+                            {QStringLiteral("-p"), QStringLiteral("--latency-msec=20"),
+                             QStringLiteral("--stream-name=") + kSilenceStream});
     if (!server->m_silence.waitForStarted(5000)) {
         *whyNot = QStringLiteral("pacat did not start");
         return nullptr;
@@ -202,4 +206,26 @@ std::vector<float> PulseServer::stopRecording()
     for (size_t i = 0; i < samples.size(); ++i)
         samples[i] = raw[i] / 32768.0f;
     return samples;
+}
+
+QString PulseServer::logPath() const
+{
+    return m_dir.filePath(QStringLiteral("server.log"));
+}
+
+int PulseServer::playbackUnderruns() const
+{
+    // "Implicit underrun of 'NAME'": a playback stream had nothing to give
+    // when the sink needed it, and the sink played silence in its place.
+    QFile log(logPath());
+    if (!log.open(QIODevice::ReadOnly))
+        return 0;
+    int count = 0;
+    const QByteArray marker("Implicit underrun of '");
+    while (!log.atEnd()) {
+        const QByteArray line = log.readLine();
+        if (line.contains(marker) && !line.contains(kSilenceStream.toUtf8()))
+            ++count;
+    }
+    return count;
 }

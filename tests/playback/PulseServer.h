@@ -24,9 +24,15 @@ public:
     // Stops the recorder and returns what it captured, as floats in -1..1.
     std::vector<float> stopRecording();
 
+    // Times so far a playback stream (other than the server's own silence)
+    // ran dry at the sink: its feeder was not scheduled in time, and the sink
+    // played silence in the middle of its sound.
+    int playbackUnderruns() const;
+
 private:
     PulseServer() = default;
     void stopProcess(QProcess& process);
+    QString logPath() const;
 
     QTemporaryDir m_dir;
     QString m_address;

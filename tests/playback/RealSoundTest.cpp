@@ -3,7 +3,7 @@
 // recording is searched for the segment's audio.
 
 #include "PlayerTestSupport.h"
-#include "PulseServer.h"
+#include "RealSoundSupport.h"
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
 #include "common/NotificationCenter.h"
@@ -12,219 +12,25 @@
 
 #include <QElapsedTimer>
 #include <cmath>
-#include <complex>
-#include <functional>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 using TestSupport::fixture;
+using namespace RealSoundSupport;
 
 namespace {
-
-using Complex = std::complex<double>;
-
-void fft(std::vector<Complex>& a, bool inverse)
-{
-    const size_t n = a.size();
-    for (size_t i = 1, j = 0; i < n; ++i) {
-        size_t bit = n >> 1;
-        for (; j & bit; bit >>= 1)
-            j ^= bit;
-        j ^= bit;
-        if (i < j)
-            std::swap(a[i], a[j]);
-    }
-    for (size_t len = 2; len <= n; len <<= 1) {
-        const double angle = 2 * M_PI / double(len) * (inverse ? 1 : -1);
-        const Complex step(std::cos(angle), std::sin(angle));
-        for (size_t i = 0; i < n; i += len) {
-            Complex w(1);
-            for (size_t k = 0; k < len / 2; ++k, w *= step) {
-                const Complex u = a[i + k], v = a[i + k + len / 2] * w;
-                a[i + k] = u + v;
-                a[i + k + len / 2] = u - v;
-            }
-        }
-    }
-}
-
-struct Match
-{
-    qsizetype lag = -1;
-    double coefficient = 0.0; // normalised correlation over the whole reference
-};
-
-// Where `reference` best lines up inside `signal`.
-Match locate(const std::vector<float>& signal, const std::vector<float>& reference)
-{
-    size_t n = 1;
-    while (n < signal.size() + reference.size())
-        n <<= 1;
-    std::vector<Complex> a(n), b(n);
-    std::copy(signal.begin(), signal.end(), a.begin());
-    std::copy(reference.begin(), reference.end(), b.begin());
-    fft(a, false);
-    fft(b, false);
-    for (size_t i = 0; i < n; ++i)
-        a[i] *= std::conj(b[i]);
-    fft(a, true);
-    Match best;
-    double peak = -1e300;
-    for (size_t lag = 0; lag + reference.size() <= signal.size(); ++lag) {
-        if (a[lag].real() > peak) {
-            peak = a[lag].real();
-            best.lag = qsizetype(lag);
-        }
-    }
-    if (best.lag < 0)
-        return best;
-    double dot = 0, es = 0, er = 0;
-    for (size_t i = 0; i < reference.size(); ++i) {
-        const double s = signal[size_t(best.lag) + i], r = reference[i];
-        dot += s * r;
-        es += s * s;
-        er += r * r;
-    }
-    best.coefficient = dot / std::sqrt(es * er + 1e-30);
-    return best;
-}
-
-void runEventsFor(int ms)
-{
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms)
-        TestSupport::processEvents();
-}
-
-constexpr double kCaptureRate = 48000.0;
-constexpr double kHeardTolerance = 0.015;
-// Takes of one measurement before a fault is taken to be the engine's.
-constexpr int kAttempts = 6;
-
-// Stretches of sound in a recording, split where digital silence lasts longer
-// than 1 ms (the played file never falls silent: it has a noise floor).
-struct Sound
-{
-    double from = 0, to = 0;
-};
-std::vector<Sound> soundRuns(const std::vector<float>& capture)
-{
-    std::vector<Sound> runs;
-    const qsizetype minGap = qsizetype(0.001 * kCaptureRate);
-    qsizetype i = 0;
-    const auto n = qsizetype(capture.size());
-    while (i < n) {
-        while (i < n && capture[size_t(i)] == 0.0f)
-            ++i;
-        if (i >= n)
-            break;
-        const qsizetype begin = i;
-        qsizetype end = i;
-        while (i < n) {
-            if (capture[size_t(i)] != 0.0f) {
-                end = ++i;
-                continue;
-            }
-            qsizetype j = i;
-            while (j < n && capture[size_t(j)] == 0.0f)
-                ++j;
-            if (j - i > minGap || j >= n)
-                break;
-            i = j;
-        }
-        i = std::max(i, end);
-        runs.push_back({double(begin) / kCaptureRate, double(end) / kCaptureRate});
-    }
-    return runs;
-}
-
-// One recording of one segment played in repeat mode, and what it shows.
-struct Take
-{
-    QString error;
-    std::vector<float> capture;
-    int starved = 0; // times the device found the player's ring empty mid-sound
-    double lagSeconds = 0, coefficient = 0, firstSound = 0, lastSound = 0, heard = 0;
-
-    void measure(const std::vector<float>& reference, double expected)
-    {
-        const Match match = locate(capture, reference);
-        lagSeconds = double(match.lag) / kCaptureRate;
-        coefficient = match.coefficient;
-        // Everything the engine plays is above digital silence (the file has a
-        // faint noise floor), so sound starts and ends where playback did.
-        qsizetype first = 0, last = qsizetype(capture.size()) - 1;
-        while (first < last && capture[size_t(first)] == 0.0f)
-            ++first;
-        while (last > first && capture[size_t(last)] == 0.0f)
-            --last;
-        firstSound = double(first) / kCaptureRate;
-        lastSound = double(last) / kCaptureRate;
-        heard = lastSound - lagSeconds;
-        m_expected = expected;
-    }
-    bool clean() const
-    {
-        return starved == 0 && coefficient > 0.98 && std::fabs(firstSound - lagSeconds) <= 0.002 &&
-               std::fabs(heard - m_expected) <= kHeardTolerance;
-    }
-
-private:
-    double m_expected = 0;
-};
-
-// Records the engine while `play` starts it, until `over` says so (or a
-// deadline passes), then while the device plays out what it holds.
-Take record(PulseServer& pulse, AudioPlayer& player, double seconds,
-            const std::function<void()>& play, const std::function<bool()>& over)
-{
-    Take take;
-    const int shortReads = player.shortReads();
-    if (!pulse.startRecording(&take.error))
-        return take;
-    runEventsFor(300);
-    play();
-    QElapsedTimer waited;
-    waited.start();
-    while (!over() && waited.elapsed() < qint64(seconds * 1000) + 5000)
-        TestSupport::processEvents();
-    runEventsFor(700); // the device plays out what it holds, the recorder takes it
-    take.capture = pulse.stopRecording();
-    take.starved = player.shortReads() - shortReads;
-    if (!over())
-        take.error = QStringLiteral("the segment never ended");
-    else if (take.capture.size() < size_t(seconds * kCaptureRate))
-        take.error = QStringLiteral("the recording is shorter than the segment");
-    return take;
-}
 
 class RealSound : public ::testing::Test
 {
 protected:
-    // One server for the process: Qt's sound system keeps to the server it
-    // first found.
-    static void SetUpTestSuite()
-    {
-        // A player starved by other work on the machine leaves gaps that say
-        // nothing about the engine; as root, this process (the threads it
-        // starts from here on) is given the precedence the server and the
-        // recorder get.
-        if (::geteuid() == 0)
-            ::setpriority(PRIO_PROCESS, 0, -10);
-        s_pulse = PulseServer::start(&s_whyNot);
-    }
-    static void TearDownTestSuite() { s_pulse.reset(); }
-
     void SetUp() override
     {
-        if (!s_pulse) {
+        QString whyNot;
+        pulse = sharedServer(&whyNot);
+        if (!pulse) {
             if (qEnvironmentVariable("CI") == QLatin1String("true"))
-                FAIL() << "CI must run the real-sound test: " << s_whyNot.toStdString();
-            GTEST_SKIP() << s_whyNot.toStdString();
+                FAIL() << "CI must run the real-sound test: " << whyNot.toStdString();
+            GTEST_SKIP() << whyNot.toStdString();
         }
-        pulse = s_pulse.get();
         engine = std::make_unique<AudioManager>(defaults.store(), center);
         bool loaded = false;
         engine->processAudioFile(path, [&](bool ok) { loaded = ok; });
@@ -276,10 +82,12 @@ protected:
         engine->setPlaybackRate(rate);
         engine->setRepeatMode(true);
         // A recording on a machine shared with other work can have a gap or
-        // lose a stretch (the server, the recorder or the decode thread was
-        // not scheduled in time; the player counts the times its ring ran
-        // dry), which no player can prevent; such a take is repeated. A
-        // fault of the engine shows in every take.
+        // lose a stretch (the decode thread or Qt's sound thread was not
+        // scheduled in time: Take::disturbed() tells), which no player can
+        // prevent; such a take is repeated. Any other take that misses is
+        // repeated too: once in about twenty, with nothing ran dry, the last
+        // segment at 3.0x was heard 16 ms short, not yet explained. A fault
+        // that shows in every take still fails.
         Take take;
         for (int attempt = 1; attempt <= kAttempts; ++attempt) {
             bool over = false;
@@ -298,10 +106,10 @@ protected:
                 break;
             take.measure(ref, expected);
             std::printf("segment %lld, rate %.1f, take %d: found at %.3f s (r=%.4f), sound from "
-                        "%.3f to %.3f s, %.3f s heard of %.3f s, %d underruns\n",
+                        "%.3f to %.3f s, %.3f s heard of %.3f s, %d underruns, %d at the sink\n",
                         static_cast<long long>(index), double(rate), attempt, take.lagSeconds,
                         take.coefficient, take.firstSound, take.lastSound, take.heard, expected,
-                        take.starved);
+                        take.starved, take.sinkUnderruns);
             if (take.clean())
                 break;
         }
@@ -313,8 +121,6 @@ protected:
     }
 
     const QString path = fixture("speech_48k_floor.wav");
-    static inline std::unique_ptr<PulseServer> s_pulse;
-    static inline QString s_whyNot;
     PulseServer* pulse = nullptr;
     TestSupport::TempDefaults defaults;
     NotificationCenter center;
@@ -374,8 +180,9 @@ TEST_F(RealSound, RepetitionsRestartAtTheFirstSampleWithShortGaps)
                 worstGap = std::max(worstGap, runs[i].from - runs[i - 1].to);
         }
         std::printf("take %d: %zu stretches of sound, %.3f s heard of %.3f s, longest gap "
-                    "%.3f s, %d underruns\n",
-                    attempt, runs.size(), heard, 3 * length, worstGap, take.starved);
+                    "%.3f s, %d underruns, %d at the sink\n",
+                    attempt, runs.size(), heard, 3 * length, worstGap, take.starved,
+                    take.sinkUnderruns);
         if (take.starved == 0 && runs.size() <= 3 &&
             std::fabs(heard - 3 * length) <= 3 * kHeardTolerance && worstGap <= 0.05)
             break;
@@ -449,8 +256,9 @@ TEST_F(RealSound, OutsideRepeatModePlaybackRunsThroughTheBoundaryWithoutAGap)
             break;
         take.measure(across, length + 0.5);
         runs = soundRuns(take.capture);
-        std::printf("take %d: %zu stretches of sound, boundary audio r=%.4f, %d underruns\n",
-                    attempt, runs.size(), take.coefficient, take.starved);
+        std::printf("take %d: %zu stretches of sound, boundary audio r=%.4f, %d underruns, %d at "
+                    "the sink\n",
+                    attempt, runs.size(), take.coefficient, take.starved, take.sinkUnderruns);
         if (take.starved == 0 && runs.size() == 1 && take.coefficient > 0.98)
             break;
     }
