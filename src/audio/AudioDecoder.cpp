@@ -242,6 +242,20 @@ double DecodedBuffer::startTime() const
     return double(m_frame->best_effort_timestamp) * m_timeBase;
 }
 
+int64_t DecodedBuffer::startFrame() const
+{
+    if (!m_frame || m_frame->best_effort_timestamp == AV_NOPTS_VALUE || m_sampleRate <= 0)
+        return kNoFrame;
+    return av_rescale_q_rnd(m_frame->best_effort_timestamp - m_streamStart,
+                            AVRational{m_timeBaseNum, m_timeBaseDen}, AVRational{1, m_sampleRate},
+                            AV_ROUND_NEAR_INF);
+}
+
+int DecodedBuffer::sampleFormat() const
+{
+    return m_frame ? m_frame->format : -1;
+}
+
 void DecodedBuffer::channelAsFloat(int channel, float* out) const
 {
     if (channel < 0 || channel >= channels()) {
@@ -290,6 +304,7 @@ struct AudioDecoder::Impl
     bool flushed = false;   // the decoder has been told so
     int skipped = 0;
     bool conform = true;
+    int conformFormat = -1;                    // AVSampleFormat; -1: the first frame's
     std::unique_ptr<FrameConverter> converter; // made at the first frame
 };
 
@@ -316,8 +331,10 @@ AudioDecoder::~AudioDecoder() = default;
 bool AudioDecoder::open(const QString& path)
 {
     const bool conform = d->conform;
+    const int conformFormat = d->conformFormat;
     d = std::make_unique<Impl>();
     d->conform = conform;
+    d->conformFormat = conformFormat;
     AVFormatContext* raw = nullptr;
     const QByteArray encoded = path.toUtf8();
     int rc = avformat_open_input(&raw, encoded.constData(), nullptr, nullptr);
@@ -371,8 +388,13 @@ bool AudioDecoder::open(const QString& path)
     info.durationEstimated = raw->duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
     info.bitRate = par->bit_rate > 0 ? par->bit_rate : std::max<int64_t>(raw->bit_rate, 0);
     d->buffer.m_timeBase = av_q2d(stream->time_base);
-    if (stream->start_time != AV_NOPTS_VALUE)
+    d->buffer.m_timeBaseNum = stream->time_base.num;
+    d->buffer.m_timeBaseDen = stream->time_base.den;
+    d->buffer.m_sampleRate = par->sample_rate;
+    if (stream->start_time != AV_NOPTS_VALUE) {
         info.startTime = double(stream->start_time) * av_q2d(stream->time_base);
+        d->buffer.m_streamStart = stream->start_time;
+    }
     return true;
 }
 
@@ -392,6 +414,10 @@ bool AudioDecoder::openCodec()
         return false;
     }
     int rc = avcodec_parameters_to_context(d->codec.get(), par);
+    // With the packets' time base the codec dates the first frame after the
+    // samples it trims (an MP3's encoder delay), so that time stamps count
+    // from the first sample delivered.
+    d->codec->pkt_timebase = d->format->streams[d->streamIndex]->time_base;
     if (rc >= 0)
         rc = avcodec_open2(d->codec.get(), codec, nullptr);
     if (rc < 0) {
@@ -427,6 +453,17 @@ void AudioDecoder::setConformFrames(bool conform)
     d->conform = conform;
 }
 
+int AudioDecoder::codecSampleFormat() const
+{
+    return d->codec ? d->codec->sample_fmt : -1;
+}
+
+void AudioDecoder::setConformFormat(int sampleFormat)
+{
+    d->conformFormat = sampleFormat;
+    d->converter.reset();
+}
+
 int AudioDecoder::skippedPackets() const
 {
     return d->skipped;
@@ -450,7 +487,8 @@ AudioDecoder::ReadResult AudioDecoder::readNext()
             if (d->conform) {
                 if (!d->converter)
                     d->converter = std::make_unique<FrameConverter>(
-                        d->info.channels, frame->format, static_cast<int>(d->info.sampleRate));
+                        d->info.channels, d->conformFormat >= 0 ? d->conformFormat : frame->format,
+                        static_cast<int>(d->info.sampleRate));
                 if (!d->converter->matches(frame)) {
                     frame = d->converter->convert(frame);
                     if (!frame) {
@@ -502,8 +540,37 @@ bool AudioDecoder::seek(double seconds)
         return false;
     const AVStream* stream = d->format->streams[d->streamIndex];
     const double timeBase = av_q2d(stream->time_base);
-    const auto ts =
-        static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase));
+    return seekToTimestamp(
+        static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase)));
+}
+
+bool AudioDecoder::seekToFrame(int64_t frame)
+{
+    if (!d->codec)
+        return false;
+    const AVStream* stream = d->format->streams[d->streamIndex];
+    const int rate = static_cast<int>(d->info.sampleRate);
+    return seekToTimestamp(d->buffer.m_streamStart +
+                           av_rescale_q_rnd(std::max<int64_t>(frame, 0), AVRational{1, rate},
+                                            stream->time_base, AV_ROUND_DOWN));
+}
+
+double AudioDecoder::runInSeconds(uint32_t formatID)
+{
+    // MP3 needs its bit reservoir and overlap (22 kHz VBR needs more than
+    // 0.3 s), AAC its overlap; the others decode each frame alone.
+    switch (formatID) {
+    case FourCC::MP3:
+        return 1.0;
+    case FourCC::AAC:
+        return 0.1;
+    default:
+        return 0.0;
+    }
+}
+
+bool AudioDecoder::seekToTimestamp(int64_t ts)
+{
     const int rc = av_seek_frame(d->format.get(), d->streamIndex, ts, AVSEEK_FLAG_BACKWARD);
     if (rc < 0) {
         d->error = ffmpegError(rc);

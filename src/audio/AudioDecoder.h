@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <climits>
 #include <cstdint>
 #include <memory>
 
@@ -30,6 +31,12 @@ public:
     int channels() const;
     // Start of this buffer in seconds of the stream, when the container says.
     double startTime() const;
+    // Start of this buffer in sample frames from the start of the stream,
+    // rounded from the container's time stamp; kNoFrame when it has none.
+    static constexpr int64_t kNoFrame = INT64_MIN;
+    int64_t startFrame() const;
+    // The AVSampleFormat of the samples.
+    int sampleFormat() const;
 
     // Writes frames() samples of channel `channel` as float in -1..1 (zeros
     // for a channel the buffer does not have).
@@ -47,6 +54,10 @@ private:
     friend class AudioDecoder;
     const AVFrame* m_frame = nullptr;
     double m_timeBase = 0;
+    int m_timeBaseNum = 0;
+    int m_timeBaseDen = 1;
+    int64_t m_streamStart = 0; // in time-base units
+    int m_sampleRate = 0;
 };
 
 // Decodes the first audio stream of a file with FFmpeg. open() probes the
@@ -88,6 +99,13 @@ public:
     // Off: buffers come as the codec made them (for a consumer that converts
     // each frame itself).
     void setConformFrames(bool conform);
+    // The sample format conformed buffers take (an AVSampleFormat), instead
+    // of the first buffer's: a reader that starts mid-stream must convert to
+    // what one reading from the start would have.
+    void setConformFormat(int sampleFormat);
+    // The codec's own sample format (an AVSampleFormat), that of the buffers
+    // it delivers unless a stream changes it; -1 before openCodec().
+    int codecSampleFormat() const;
     const DecodedBuffer& buffer() const;
 
     // Repositions the stream so that the following buffers begin at or before
@@ -95,6 +113,14 @@ public:
     // caller drops what precedes its target; codecs that carry state from frame
     // to frame (MP3, AAC) need to start a little earlier still to run in.
     bool seek(double seconds);
+    // The same, for a position in sample frames from the start of the stream
+    // (DecodedBuffer::startFrame()), without the rounding of seconds.
+    bool seekToFrame(int64_t frame);
+
+    // How much earlier than a target a codec must start decoding for the
+    // samples at the target to come out exactly as a reading from the start
+    // gives them.
+    static double runInSeconds(uint32_t formatID);
 
     // Number of undecodable packets skipped so far (a damaged stretch of a file
     // is passed over, as players do, rather than failing the whole file).
@@ -109,6 +135,8 @@ public:
     static void setLibraryLogging(bool enabled);
 
 private:
+    bool seekToTimestamp(int64_t ts);
+
     struct Impl;
     std::unique_ptr<Impl> d;
 };

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -72,6 +73,14 @@ public:
 
     // ---- Analysis ----
     bool analyzeAudioCharacteristics(const QString& path);
+    // How many parts of a file are decoded side by side: 0 (the default)
+    // for one per core, 1 for a single pass.
+    void setAnalysisThreads(int threads) { m_analysisThreads.store(std::max(threads, 0)); }
+    int analysisThreads() const;
+    // The parts the last analysis was joined from; 1 when it read the file in
+    // one pass (a short file, a codec that cannot start mid-stream exactly, or
+    // parts that disagreed).
+    int analysisParts() const { return m_analysisParts; }
     static float calculateRMSForBuffer(const float* buffer, uint32_t frameCount);
     static double getAudioDurationFromFile(const QString& path);
     static QString getAudioFormatByFormatID(uint32_t formatID);
@@ -213,6 +222,9 @@ private:
     float m_maxRepeatPlayTimes = 20.0f;
 
     std::atomic<double> m_progress{0.0};
+    std::atomic<int> m_analysisThreads{0};
+    int m_analysisParts = 0;
+    void raiseProgress(double done);
     QString m_lastError;
 
     // Playback.
