@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -35,6 +36,7 @@ const Format kFormats[] = {
 
 struct Variant
 {
+    Variant(const char* l, std::vector<std::string> e) : label(l), extra(std::move(e)) {}
     const char* label;
     std::vector<std::string> extra;
     std::vector<double> times;
@@ -48,10 +50,10 @@ bool benchFormat(const Format& format, int runs, bool targets)
     const std::string file =
         Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, format.file, format.encoder);
 
-    std::vector<Variant> variants{{"default", {}, {}},
-                                  {"--threads 1", {"--threads", "1"}, {}},
-                                  {"--threads 2", {"--threads", "2"}, {}},
-                                  {"--threads 4", {"--threads", "4"}, {}}};
+    std::vector<Variant> variants{{"default", {}},
+                                  {"--threads 1", {"--threads", "1"}},
+                                  {"--threads 2", {"--threads", "2"}},
+                                  {"--threads 4", {"--threads", "4"}}};
     std::vector<double> ffmpegTimes, ffmpegCpu;
     long peakKiB = 0;
     for (int i = 0; i < runs; ++i) {
