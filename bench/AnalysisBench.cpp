@@ -11,8 +11,8 @@
 
 #include "BenchSupport.h"
 
-#include <cstdio>
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <thread>

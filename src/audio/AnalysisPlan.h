@@ -12,6 +12,8 @@ public:
     // A part shorter than this costs more in opening and running in than it
     // saves.
     static constexpr double kMinPartSeconds = 1.0;
+    // Threads beyond any machine's cores only cost memory.
+    static constexpr int kMaxParts = 64;
 
     // Up to `parts` parts of about equal length for a stream of about
     // `expectedFrames` sample frames (the container's figure, which may be

@@ -32,7 +32,8 @@ PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
                                    const HandedPosition& handed, Events events)
     : m_decoder(decoder), m_ring(ring), m_handed(handed), m_events(std::move(events)),
       m_sampleRate(decoder.info().sampleRate), m_channels(ring.channels()),
-      m_streamStart(decoder.info().startTime), m_runIn(AudioDecoder::runInSeconds(decoder.info().formatID)),
+      m_streamStart(decoder.info().startTime),
+      m_runIn(AudioDecoder::runInSeconds(decoder.info().formatID)),
       m_fillTarget(
           std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.25 * m_sampleRate))),
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,

@@ -1,10 +1,11 @@
 // The analysis read in parts side by side against the same file read in one
 // pass: everything the engine derives must come out identical.
 
+#include "audio/ChunkedAnalysis.h"
+
 #include "audio/AnalysisPlan.h"
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
-#include "audio/ChunkedAnalysis.h"
 #include "audio/Loudness.h"
 #include "audio/Segmentation.h"
 #include "common/NotificationCenter.h"
@@ -109,10 +110,10 @@ TEST_F(ChunkedAnalysisTest, PartsJoinIntoExactlyTheOnePassResult)
     // analysis frame, a VBR MP3 with no table to seek by, and a stream whose
     // frames change layout half-way (which may be refused, never joined wrong).
     for (const char* file :
-         {"speech.mp3", "speech_vbr.mp3", "speech_vbr_notoc.mp3", "speech_cover.mp3",
-          "speech.flac", "speech_24bit.flac", "speech_alac.m4a", "speech.wav", "speech.aiff",
-          "speech.caf", "speech_float.wav", "speech_6ch.wav", "speech_8k.wav",
-          "speech_441000.flac", "speech_441001.flac", "stereo_then_mono.flac"}) {
+         {"speech.mp3", "speech_vbr.mp3", "speech_vbr_notoc.mp3", "speech_cover.mp3", "speech.flac",
+          "speech_24bit.flac", "speech_alac.m4a", "speech.wav", "speech.aiff", "speech.caf",
+          "speech_float.wav", "speech_6ch.wav", "speech_8k.wav", "speech_441000.flac",
+          "speech_441001.flac", "stereo_then_mono.flac"}) {
         const Loaded one = load(file, 1);
         ASSERT_EQ(one.parts, 1) << file;
         for (int threads : {2, 3, 7}) {
