@@ -40,10 +40,12 @@ struct AudioCharacteristics
 // tests construct their own.
 //
 // processAudioFile() may run on any thread (the window runs it on a worker
-// and reads analysisProgress() meanwhile); the player is created, the
-// completion called and the waveform handed back on the thread the engine
-// lives on. Properties are not to be read while a load is running. Everything else, playback
-// included, is called on the engine's thread, where its timers run.
+// and reads analysisProgress() meanwhile), and decodes a long file on threads
+// of its own besides, one per core unless setAnalysisThreads() says
+// otherwise; the player is created, the completion called and the waveform
+// handed back on the thread the engine lives on. Properties are not to be
+// read while a load is running. Everything else, playback included, is
+// called on the engine's thread, where its timers run.
 class AudioManager : public QObject
 {
     Q_OBJECT
