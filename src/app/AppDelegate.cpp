@@ -2,16 +2,21 @@
 
 #include "app/Dialogs.h"
 #include "app/MainWindowController.h"
-#include "app/MainWindowController.h"
+#include "app/UpdateAlertSheets.h"
 #include "app/ViewController.h"
+#include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "preferences/PreferenceViewController.h"
 #include "transcript/DocumentManager.h"
+#include "update/CheckAppUpdate.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -22,6 +27,9 @@ AppDelegate::AppDelegate(const SessionServices& services, QObject* parent)
 
 AppDelegate::~AppDelegate()
 {
+    delete m_preferenceWindowController;
+    // The checker's pending answer must not reach alerts that are gone.
+    delete m_updateChecker;
     delete m_mainWindowController;
 }
 
@@ -33,6 +41,13 @@ void AppDelegate::applicationDidFinishLaunching()
     MainWindowController* window = m_mainWindowController;
     connect(window, &MainWindowController::helpRequested, this, &AppDelegate::showHelp);
     connect(window, &MainWindowController::sizePresetRequested, this, &AppDelegate::changeSize);
+    connect(window, &MainWindowController::preferencesRequested, this,
+            &AppDelegate::showPreferences);
+    connect(window, &MainWindowController::windowClosed, this, &AppDelegate::mainWindowClosed);
+    connect(window, &MainWindowController::closeCancelled, this,
+            [this] { m_restartPending = false; });
+    connect(window, &MainWindowController::checkForUpdatesRequested, this,
+            &AppDelegate::checkUpdate);
     window->show();
     continueStartup();
 }
@@ -98,4 +113,70 @@ void AppDelegate::showHelp()
         return;
     Dialogs::showModalAlert(LocalizedString(Texts::Help), localizedHelpText(),
                             LocalizedString(Texts::OK));
+}
+
+PreferenceViewController* AppDelegate::preferenceWindowController() const
+{
+    return m_preferenceWindowController.data();
+}
+
+void AppDelegate::showPreferences()
+{
+    if (!m_preferenceWindowController) {
+        LanguageManager& language = m_language ? *m_language : LanguageManager::sharedInstance();
+        auto* controller = new PreferenceViewController(m_services.engine, m_services.defaults,
+                                                        m_services.center, language);
+        connect(controller, &PreferenceViewController::restartRequested, this,
+                &AppDelegate::restartApp);
+        m_preferenceWindowController = controller;
+    }
+    PreferenceViewController* window = m_preferenceWindowController;
+    QWidget* anchor = m_mainWindowController.data();
+    const QScreen* screen = anchor ? anchor->screen() : QGuiApplication::primaryScreen();
+    if (screen) {
+        QRect frame = window->frameGeometry();
+        frame.moveCenter(screen->availableGeometry().center());
+        window->move(frame.topLeft());
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void AppDelegate::restartApp()
+{
+    MainWindowController* window = m_mainWindowController;
+    if (!window)
+        return;
+    m_restartPending = true;
+    window->close();
+}
+
+void AppDelegate::mainWindowClosed()
+{
+    // Closing the main window ends the application, the preferences included.
+    if (PreferenceViewController* preferences = m_preferenceWindowController)
+        preferences->close();
+    if (!m_restartPending)
+        return;
+    m_restartPending = false;
+    emit aboutToRestart();
+    const QString program = QCoreApplication::applicationFilePath();
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    const bool started = m_startProcess ? m_startProcess(program, arguments)
+                                        : QProcess::startDetached(program, arguments);
+    if (!started)
+        qWarning("Could not start %s again", qUtf8Printable(program));
+    // Every window is closed by now; exit() leaves the event loop without
+    // asking them again.
+    QCoreApplication::exit(0);
+}
+
+void AppDelegate::checkUpdate()
+{
+    if (!m_updateChecker) {
+        m_updateAlerts = std::make_unique<UpdateAlertSheets>(m_mainWindowController.data());
+        m_updateChecker = new CheckAppUpdate(m_services.defaults, *m_updateAlerts, this);
+    }
+    m_updateChecker->checkForUpdates(true);
 }

@@ -1,6 +1,7 @@
 #include "app/AutoSaveQueue.h"
 
 #include "app/FileIdentity.h"
+#include "common/ThreadHandOff.h"
 #include "transcript/LrcLine.h"
 #include "transcript/TranscriptionManager.h"
 
@@ -25,7 +26,7 @@ double secondsNow()
 void onMainThread(std::function<void()> work)
 {
     if (QCoreApplication* app = QCoreApplication::instance())
-        QMetaObject::invokeMethod(app, std::move(work), Qt::QueuedConnection);
+        postHandedOver(app, std::move(work));
 }
 
 } // namespace
@@ -58,28 +59,29 @@ void AutoSaveQueue::enqueue(Snapshot snapshot, Finished finished)
         m_queue->setExpiryTimeout(-1);
     }
     m_lastAutoSaveTime = m_now();
-    m_queue->start([snapshot = std::move(snapshot), finished = std::move(finished)] {
-        try {
-            QString identifier;
-            const bool saved = save(snapshot, &identifier);
-            onMainThread([saved, identifier, finished] {
-                if (saved)
-                    qInfo("Auto save completed for file: %s", qUtf8Printable(identifier));
-                else
-                    qInfo("Auto save failed for file: %s", qUtf8Printable(identifier));
-                if (finished)
-                    finished(saved, identifier);
-            });
-        } catch (const std::exception& exception) {
-            const QString what = QString::fromLocal8Bit(exception.what());
-            qInfo("Auto save exception: %s", qUtf8Printable(what));
-            onMainThread([what, finished] {
-                qInfo("Auto save failed with exception: %s", qUtf8Printable(what));
-                if (finished)
-                    finished(false, QString());
-            });
-        }
-    });
+    startHandedOver(
+        m_queue.get(), [snapshot = std::move(snapshot), finished = std::move(finished)] {
+            try {
+                QString identifier;
+                const bool saved = save(snapshot, &identifier);
+                onMainThread([saved, identifier, finished] {
+                    if (saved)
+                        qInfo("Auto save completed for file: %s", qUtf8Printable(identifier));
+                    else
+                        qInfo("Auto save failed for file: %s", qUtf8Printable(identifier));
+                    if (finished)
+                        finished(saved, identifier);
+                });
+            } catch (const std::exception& exception) {
+                const QString what = QString::fromLocal8Bit(exception.what());
+                qInfo("Auto save exception: %s", qUtf8Printable(what));
+                onMainThread([what, finished] {
+                    qInfo("Auto save failed with exception: %s", qUtf8Printable(what));
+                    if (finished)
+                        finished(false, QString());
+                });
+            }
+        });
 }
 
 void AutoSaveQueue::waitForDone()
@@ -106,7 +108,8 @@ bool AutoSaveQueue::save(const Snapshot& snapshot, QString* identifierOut)
         *identifierOut = identifier.value_or(QString());
     if (!identifier || snapshot.transcriptionsFolder.isEmpty())
         return false;
-    const QString storePath = QStringLiteral("%1/%2").arg(snapshot.transcriptionsFolder, *identifier);
+    const QString storePath =
+        QStringLiteral("%1/%2").arg(snapshot.transcriptionsFolder, *identifier);
     const QString tempPath = storePath + QStringLiteral(".temp");
 
     // A staging list of this job's own: the main thread's saves use theirs.

@@ -1,5 +1,6 @@
 #include "app/Dialogs.h"
 
+#include "common/ThreadHandOff.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 
@@ -27,7 +28,7 @@ void onMainThread(std::function<void()> function)
     if (QThread::currentThread() == app->thread())
         function();
     else
-        QMetaObject::invokeMethod(app, std::move(function), Qt::QueuedConnection);
+        postHandedOver(app, std::move(function));
 }
 
 QMessageBox* makeWarning(const QString& title, const QString& message, QWidget* parent)
@@ -62,7 +63,7 @@ void Dialogs::showMsg(const QString& title, const QString& message)
     onMainThread([title, message] {
         QWidget* window = mainWindow();
         QMessageBox* box = makeWarning(title, message, window);
-        box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        box->addButton(LocalizedString(Texts::OK), QMessageBox::AcceptRole);
         QObject::connect(box, &QMessageBox::finished, box, [] { qInfo("User clicked OK"); });
         if (window) {
             box->setWindowModality(Qt::WindowModal);
@@ -86,9 +87,7 @@ void Dialogs::showAlertWithTitle(const QString& title, const QString& message,
         QObject::connect(box, &QMessageBox::finished, box, [box, confirm, completion] {
             const bool confirmed = box->clickedButton() == confirm;
             if (completion)
-                QMetaObject::invokeMethod(
-                    qApp, [completion, confirmed] { completion(confirmed); },
-                    Qt::QueuedConnection);
+                postHandedOver(qApp, [completion, confirmed] { completion(confirmed); });
         });
         box->setWindowModality(window ? Qt::WindowModal : Qt::ApplicationModal);
         box->open();
@@ -116,8 +115,9 @@ QString Dialogs::nameFilterForExtensions(const QString& label, const QStringList
     return QStringLiteral("%1 (%2)").arg(label, patterns.join(QLatin1Char(' ')));
 }
 
-std::optional<QString> Dialogs::asyncSelectFileWithExtensions(
-    const QStringList& extensions, std::optional<FileSelectionError>* error)
+std::optional<QString>
+Dialogs::asyncSelectFileWithExtensions(const QStringList& extensions,
+                                       std::optional<FileSelectionError>* error)
 {
     QFileDialog dialog(mainWindow());
     dialog.setFileMode(QFileDialog::ExistingFile);

@@ -1,6 +1,7 @@
 #include "app/KeyDownMonitor.h"
 
 #include "app/ViewController.h"
+#include "common/ThreadHandOff.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/ShortcutBindings.h"
@@ -31,10 +32,9 @@ bool KeyDownMonitor::isOtherTextInput(const QWidget* focus) const
 {
     if (!focus)
         return false;
-    const bool textInput = qobject_cast<const QLineEdit*>(focus) ||
-                           qobject_cast<const QTextEdit*>(focus) ||
-                           qobject_cast<const QPlainTextEdit*>(focus) ||
-                           qobject_cast<const QAbstractSpinBox*>(focus);
+    const bool textInput =
+        qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QTextEdit*>(focus) ||
+        qobject_cast<const QPlainTextEdit*>(focus) || qobject_cast<const QAbstractSpinBox*>(focus);
     const auto* combo = qobject_cast<const QComboBox*>(focus);
     if (!textInput && !(combo && combo->isEditable()))
         return false;
@@ -43,6 +43,8 @@ bool KeyDownMonitor::isOtherTextInput(const QWidget* focus) const
 
 bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
 {
+    // Every event passes here first, including those workers post back.
+    ThreadHandOff::acquired();
     if (event->type() != QEvent::KeyPress)
         return false;
     // A key press reaches the filter once for the window and once for each
@@ -58,8 +60,8 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
         return false;
     // Read afresh each time: a shortcut changed in the preferences applies
     // to the very next key press.
-    const std::optional<ShortcutAction> action = matchStoredShortcut(
-        ObjectStorage(m_defaults), stroke.keyCode, stroke.rawModifierFlags);
+    const std::optional<ShortcutAction> action =
+        matchStoredShortcut(ObjectStorage(m_defaults), stroke.keyCode, stroke.rawModifierFlags);
     if (!action)
         return false;
     switch (*action) {

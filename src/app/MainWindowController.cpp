@@ -80,7 +80,6 @@ void MainWindowController::setupToolbar()
             [this] { m_viewController->saveTranscription(); });
     QAction* settings = add("settings", "settings", Texts::ToolbarSettings, Texts::TipSettings);
     connect(settings, &QAction::triggered, this, &MainWindowController::preferencesRequested);
-    settings->setEnabled(false); // the preferences window is not built yet
     QAction* import = add("import", "import", Texts::ToolbarImport, Texts::TipImport);
     connect(import, &QAction::triggered, this,
             [this] { m_viewController->importTranscription(); });
@@ -108,9 +107,10 @@ void MainWindowController::setupMenus()
     connect(save, &QAction::triggered, this, [this] { m_viewController->saveTranscription(); });
     file->addSeparator();
     QAction* preferences = file->addAction(LocalizedString(Texts::MenuPreferences));
+    preferences->setObjectName(QStringLiteral("menuPreferences"));
     preferences->setMenuRole(QAction::PreferencesRole);
+    preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
     connect(preferences, &QAction::triggered, this, &MainWindowController::preferencesRequested);
-    preferences->setEnabled(false);
     file->addSeparator();
     QAction* quit = file->addAction(LocalizedString(Texts::MenuQuit));
     quit->setShortcut(QKeySequence::Quit);
@@ -129,7 +129,7 @@ void MainWindowController::setupMenus()
     QMenu* help = menuBar()->addMenu(LocalizedString(Texts::Help));
     QAction* updates = help->addAction(LocalizedString(Texts::MenuCheckForUpdates));
     connect(updates, &QAction::triggered, this, &MainWindowController::checkForUpdatesRequested);
-    updates->setEnabled(false); // the update alerts are not built yet
+    updates->setObjectName(QStringLiteral("menuCheckForUpdates"));
     QAction* guide = help->addAction(LocalizedString(Texts::MenuKelmoraHelp));
     guide->setShortcut(QKeySequence::HelpContents);
     connect(guide, &QAction::triggered, this, &MainWindowController::helpRequested);
@@ -215,14 +215,19 @@ void MainWindowController::closePromptAnswered(bool save, bool dontSave)
         QTimer::singleShot(0, this, &QWidget::close);
         return;
     }
-    if (!save)
-        return; // Cancel: everything stays as it was
+    if (!save) {
+        emit closeCancelled(); // everything stays as it was
+        return;
+    }
     // The save's completion holds the window weakly.
     QPointer<MainWindowController> self(this);
     m_viewController->saveTranscriptionWithCompletion([self](bool saved) {
-        if (saved && !self.isNull())
-            QMetaObject::invokeMethod(self.data(), &MainWindowController::closeAfterSave,
-                                      Qt::QueuedConnection);
+        if (self.isNull())
+            return;
+        QMetaObject::invokeMethod(self.data(),
+                                  saved ? &MainWindowController::closeAfterSave
+                                        : &MainWindowController::closeCancelled,
+                                  Qt::QueuedConnection);
     });
 }
 
@@ -238,6 +243,7 @@ void MainWindowController::closeEvent(QCloseEvent* event)
     if (m_closeConfirmed || !m_viewController->hasSegmentsShown()) {
         cleanupAndClose();
         event->accept();
+        emit windowClosed();
         return;
     }
     event->ignore();

@@ -46,6 +46,10 @@ signals:
     void checkForUpdatesRequested();
     void helpRequested();
     void sizePresetRequested(int width, int height);
+    // The window really closes (after the save prompt, if there was one).
+    void windowClosed();
+    // The save prompt was cancelled, or its save did not happen: the window stays.
+    void closeCancelled();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

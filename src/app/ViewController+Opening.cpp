@@ -8,6 +8,7 @@
 #include "app/ViewController.h"
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
+#include "common/ThreadHandOff.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "views/TranscriptionTableView.h"
@@ -48,7 +49,7 @@ void ViewController::processAudioFile()
 
     QPointer<ViewController> self(this);
     AudioManager* engine = &m_engine;
-    m_analysisQueue->start([self, engine, path] {
+    startHandedOver(m_analysisQueue.get(), [self, engine, path] {
         // The completion runs on the engine's (main) thread.
         engine->processAudioFile(path, [self, path](bool success) {
             if (!success)
@@ -144,9 +145,9 @@ bool ViewController::isValidAudioFile(const QString& path)
 void ViewController::openFile()
 {
     Dialogs::selectFileWithExtensions(
-        audioFileExtensions(), [self = QPointer<ViewController>(this)](
-                                   std::optional<QString> path,
-                                   std::optional<Dialogs::FileSelectionError>) {
+        audioFileExtensions(),
+        [self = QPointer<ViewController>(this)](std::optional<QString> path,
+                                                std::optional<Dialogs::FileSelectionError>) {
             if (self.isNull() || !path)
                 return;
             self.data()->openFileChosen(*path);
@@ -166,16 +167,13 @@ void ViewController::handleSelectedFile(const QString& path)
 {
     showLoadingIndicator();
     QPointer<ViewController> self(this);
-    QThreadPool::globalInstance()->start([self, path] {
+    startHandedOver(QThreadPool::globalInstance(), [self, path] {
         const bool valid = isValidAudioFile(path);
         // Back on the main thread; a window closed meanwhile hears nothing.
-        QMetaObject::invokeMethod(
-            qApp,
-            [self, path, valid] {
-                if (!self.isNull())
-                    self.data()->typeCheckFinished(path, valid);
-            },
-            Qt::QueuedConnection);
+        postHandedOver(qApp, [self, path, valid] {
+            if (!self.isNull())
+                self.data()->typeCheckFinished(path, valid);
+        });
     });
 }
 
@@ -189,7 +187,9 @@ void ViewController::typeCheckFinished(const QString& path, bool valid)
         return;
     }
     // The attributes as the file system gives them; its own words on failure.
-    struct stat attributes {};
+    struct stat attributes
+    {
+    };
     if (::stat(QFile::encodeName(path).constData(), &attributes) != 0) {
         showError(LocalizedString(Texts::FileAccessError),
                   QString::fromLocal8Bit(std::strerror(errno)));

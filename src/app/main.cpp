@@ -4,6 +4,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/MainWindowController.h"
+#include "desktop/MprisService.h"
 #include "localization/LanguageManager.h"
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
@@ -42,8 +43,17 @@ int main(int argc, char* argv[])
     regDefaultPreference(Defaults::standard());
     LanguageManager::sharedInstance().installStartupTranslator();
 
-    AppDelegate delegate(SessionServices::shared());
+    const SessionServices services = SessionServices::shared();
+    AppDelegate delegate(services);
+    // One Kelmora per desktop session: when one runs, it gets the files.
+    MprisService mpris(services.engine, services.center);
+    if (mpris.claimBusName() == MprisService::Claim::OwnedElsewhere &&
+        mpris.handOverToRunningInstance(parser.positionalArguments()))
+        return 0;
+    QObject::connect(&delegate, &AppDelegate::aboutToRestart, &mpris,
+                     &MprisService::releaseBusName);
     delegate.applicationDidFinishLaunching();
+    mpris.attachWindow(delegate.mainWindowController());
     for (const QString& path : parser.positionalArguments())
         delegate.applicationOpenFile(path);
     return app.exec();

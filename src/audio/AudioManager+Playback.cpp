@@ -8,6 +8,7 @@
 #include "common/Clock.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
+#include "common/ThreadHandOff.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
 
@@ -34,10 +35,12 @@ bool AudioManager::createAudioPlayer(const QString& path)
     if (!player) {
         qInfo("Error creating audio player: %s", qPrintable(error));
         m_audioPlayer.reset();
+        m_playerDuration = m_duration;
         fail(QStringLiteral("the audio cannot be played (%1)").arg(error));
         return false;
     }
     m_audioPlayer = std::move(player);
+    m_playerDuration = m_duration;
     connect(m_audioPlayer.get(), &AudioPlayer::didFinishPlaying, this,
             &AudioManager::audioPlayerDidFinishPlaying);
     connect(m_audioPlayer.get(), &AudioPlayer::decodeErrorDidOccur, this,
@@ -147,13 +150,10 @@ void AudioManager::segmentEndTimerFired()
 
 void AudioManager::deliverPlaybackCompletion()
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_playbackCompletionHandler)
-                m_playbackCompletionHandler();
-        },
-        Qt::QueuedConnection);
+    postHandedOver(this, [this] {
+        if (m_playbackCompletionHandler)
+            m_playbackCompletionHandler();
+    });
 }
 
 void AudioManager::play()
@@ -259,7 +259,7 @@ void AudioManager::saveMaxRepeatTimesSetting(qint64 times)
 void AudioManager::updatePlaybackPosition(int tickers)
 {
     const double position = m_audioPlayer ? m_audioPlayer->currentTime() : 0.0;
-    if (std::fabs(m_duration - position) < kEndOfFileTolerance)
+    if (std::fabs(m_playerDuration - position) < kEndOfFileTolerance)
         m_isPlaybackFinished = true;
     // Built once for all the posts of this tick.
     static const QString name = QString::fromLatin1(Notifications::AudioPlaybackPositionDidUpdate);
@@ -275,17 +275,14 @@ void AudioManager::performFadeIn()
     // the engine's thread, and only while the player is playing. The engine
     // waits for the queue before it goes away.
     const auto start = std::chrono::steady_clock::now();
-    m_fadeQueue->start([this, start] {
+    startHandedOver(m_fadeQueue.get(), [this, start] {
         for (int i = 0; i < kFadeSteps; ++i) {
             std::this_thread::sleep_until(start + std::chrono::milliseconds(10 * i));
             const float volume = std::min(1.0f, static_cast<float>(i) * 0.1f);
-            QMetaObject::invokeMethod(
-                this,
-                [this, volume] {
-                    if (m_audioPlayer && m_audioPlayer->isPlaying())
-                        m_audioPlayer->setVolume(volume);
-                },
-                Qt::QueuedConnection);
+            postHandedOver(this, [this, volume] {
+                if (m_audioPlayer && m_audioPlayer->isPlaying())
+                    m_audioPlayer->setVolume(volume);
+            });
         }
     });
 }

@@ -4,6 +4,7 @@
 #include "audio/Segmentation.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
+#include "common/ThreadHandOff.h"
 
 #include <QDebug>
 #include <QThread>
@@ -54,8 +55,7 @@ void AudioManager::processAudioFile(const QString& path, const Completion& compl
         if (onEngineThread)
             completion(false);
         else
-            QMetaObject::invokeMethod(
-                this, [completion] { completion(false); }, Qt::QueuedConnection);
+            postHandedOver(this, [completion] { completion(false); });
         return;
     }
     calculateAdaptiveThresholds();
@@ -84,7 +84,7 @@ void AudioManager::processAudioFile(const QString& path, const Completion& compl
     if (onEngineThread)
         finish();
     else
-        QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+        postHandedOver(this, finish);
 }
 
 bool AudioManager::updateSegments(const SegmentList& segments)

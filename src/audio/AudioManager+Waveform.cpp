@@ -2,6 +2,7 @@
 // peaks themselves are collected during the analysis pass.
 
 #include "audio/AudioManager.h"
+#include "common/ThreadHandOff.h"
 
 #include <QMetaObject>
 
@@ -16,10 +17,7 @@ void AudioManager::extractWaveformDataWithCompletionHandler(const WaveformHandle
     if (!handler)
         return;
     // Always delivered later, on the engine's thread, even when called there.
-    QMetaObject::invokeMethod(
-        this,
-        [handler, waveform = *m_decodedWaveform] {
-            handler(waveform.peaks, waveform.timeScale, waveform.frames);
-        },
-        Qt::QueuedConnection);
+    postHandedOver(this, [handler, waveform = *m_decodedWaveform] {
+        handler(waveform.peaks, waveform.timeScale, waveform.frames);
+    });
 }

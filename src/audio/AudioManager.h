@@ -233,6 +233,10 @@ private:
     Clock* m_clock;
     OutputFactory m_outputFactory;
     std::unique_ptr<AudioPlayer> m_audioPlayer;
+    // The loaded file's duration as the position ticks see it. Set on the
+    // engine's thread with the player, so a load analysing the next file on a
+    // worker never changes it under the ticks of the one still playing.
+    double m_playerDuration = 0.0;
     std::shared_ptr<Timer> m_playTimer;             // the one timer slot
     std::unique_ptr<PositionTickers> m_tickerGroup; // one clock timer for all of them
     QList<std::shared_ptr<Timer>> m_tickers;        // every position ticker started by play()

@@ -2,6 +2,7 @@
 
 #include "audio/AudioDecoder.h"
 #include "audio/NullAudioOutput.h"
+#include "common/ThreadHandOff.h"
 
 #include <QDebug>
 #include <QMetaObject>
@@ -44,22 +45,16 @@ AudioPlayer::AudioPlayer(const QString& path, std::unique_ptr<AudioDecoder> deco
     QPointer<AudioPlayer> self(this);
     PlaybackProducer::Events events;
     events.reachedEnd = [self](uint32_t seek) {
-        QMetaObject::invokeMethod(
-            self,
-            [self, seek] {
-                if (self)
-                    self->onReachedEnd(seek);
-            },
-            Qt::QueuedConnection);
+        postHandedOver(self, [self, seek] {
+            if (self)
+                self->onReachedEnd(seek);
+        });
     };
     events.decodeError = [self](const QString& message) {
-        QMetaObject::invokeMethod(
-            self,
-            [self, message] {
-                if (self)
-                    emit self->decodeErrorDidOccur(message);
-            },
-            Qt::QueuedConnection);
+        postHandedOver(self, [self, message] {
+            if (self)
+                emit self->decodeErrorDidOccur(message);
+        });
     };
     m_producer =
         std::make_unique<PlaybackProducer>(*m_decoder, m_ring, m_handed, std::move(events));

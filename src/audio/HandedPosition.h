@@ -8,6 +8,8 @@
 // The tag of the frame the device callback handed out last, published by the
 // callback (the only writer) and read by any thread. A sequence lock: the
 // writer never waits; a reader retries in the rare case it overlapped a write.
+// The fields are stored with release and loaded with acquire instead of using
+// fences, so that ThreadSanitizer (which does not model fences) can check it.
 class HandedPosition
 {
 public:
@@ -15,9 +17,8 @@ public:
     {
         const uint32_t v = m_version.load(std::memory_order_relaxed);
         m_version.store(v + 1, std::memory_order_relaxed);
-        std::atomic_thread_fence(std::memory_order_release);
-        m_seek.store(tag.seek, std::memory_order_relaxed);
-        m_position.store(tag.position, std::memory_order_relaxed);
+        m_seek.store(tag.seek, std::memory_order_release);
+        m_position.store(tag.position, std::memory_order_release);
         m_version.store(v + 2, std::memory_order_release);
     }
 
@@ -25,9 +26,8 @@ public:
     {
         for (;;) {
             const uint32_t before = m_version.load(std::memory_order_acquire);
-            const FrameTag tag{m_seek.load(std::memory_order_relaxed),
-                               m_position.load(std::memory_order_relaxed)};
-            std::atomic_thread_fence(std::memory_order_acquire);
+            const FrameTag tag{m_seek.load(std::memory_order_acquire),
+                               m_position.load(std::memory_order_acquire)};
             if ((before & 1u) == 0 && m_version.load(std::memory_order_relaxed) == before)
                 return tag;
         }

@@ -7,6 +7,7 @@
 #include "preferences/PreferenceKeys.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -113,6 +114,16 @@ bool LanguageManager::installStartupTranslator()
     if (!QCoreApplication::installTranslator(translator.get()))
         return false;
     m_translator = std::move(translator);
+
+    // Qt names Simplified Chinese zh_CN; a missing file leaves its dialogs in English.
+    const QString language = startupLanguage();
+    const QString qtName = language == QLatin1String("zh-Hans") ? QStringLiteral("zh_CN") : language;
+    auto qtTranslator = std::make_unique<QTranslator>();
+    if (language != QLatin1String("en") &&
+        qtTranslator->load(QStringLiteral("qtbase_") + qtName,
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
+        QCoreApplication::installTranslator(qtTranslator.get()))
+        m_qtTranslator = std::move(qtTranslator);
     return true;
 }
 
@@ -123,5 +134,10 @@ void LanguageManager::removeStartupTranslator()
         if (QCoreApplication::instance())
             QCoreApplication::removeTranslator(m_translator.get());
         m_translator.reset();
+    }
+    if (m_qtTranslator) {
+        if (QCoreApplication::instance())
+            QCoreApplication::removeTranslator(m_qtTranslator.get());
+        m_qtTranslator.reset();
     }
 }

@@ -53,8 +53,9 @@ public:
     // The supported code a language tag falls under, or empty.
     static QString supportedLanguageForTag(const QString& tag);
 
-    // Installs the translation of startupLanguage() into the application; false
-    // when it could not be loaded. A second call replaces the first.
+    // Installs the translation of startupLanguage() into the application, with
+    // Qt's own for its standard dialogs when the system has it; false when
+    // ours could not be loaded. A second call replaces the first.
     bool installStartupTranslator();
     void removeStartupTranslator();
 
@@ -65,4 +66,5 @@ private:
     NotificationCenter& m_center;
     LanguageBundle& m_bundle;
     std::unique_ptr<QTranslator> m_translator;
+    std::unique_ptr<QTranslator> m_qtTranslator; // Qt's own dialogs (font, colour, file)
 };

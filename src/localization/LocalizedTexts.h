@@ -251,3 +251,51 @@ inline constexpr std::array All = {AppName,
                                    StatusBar};
 
 } // namespace Texts
+
+// The preferences window: tabs, labels, switches, the shortcut fields' commands
+namespace Texts {
+
+inline constexpr const char* TabGeneral = QT_TRANSLATE_NOOP("Localizable", "General");
+inline constexpr const char* TabAppearance = QT_TRANSLATE_NOOP("Localizable", "Appearance");
+inline constexpr const char* TabShortcuts = QT_TRANSLATE_NOOP("Localizable", "Shortcuts");
+inline constexpr const char* MinSegmentDurationLabel =
+    QT_TRANSLATE_NOOP("Localizable", "Shortest segment (seconds)");
+inline constexpr const char* PlaySpeedLabel = QT_TRANSLATE_NOOP("Localizable", "Play speed");
+inline constexpr const char* RepeatTimesLabel =
+    QT_TRANSLATE_NOOP("Localizable", "Plays of each segment in repeat mode");
+inline constexpr const char* LanguageLabel = QT_TRANSLATE_NOOP("Localizable", "Language");
+inline constexpr const char* LanguageRestartNote =
+    QT_TRANSLATE_NOOP("Localizable", "A new language shows after a restart.");
+inline constexpr const char* TableBackgroundLabel =
+    QT_TRANSLATE_NOOP("Localizable", "Table background");
+inline constexpr const char* TextColorLabel = QT_TRANSLATE_NOOP("Localizable", "Text colour");
+inline constexpr const char* FontLabel = QT_TRANSLATE_NOOP("Localizable", "Font");
+inline constexpr const char* ShowLineNumbersLabel =
+    QT_TRANSLATE_NOOP("Localizable", "Show line numbers");
+inline constexpr const char* ShowAudioWaveLabel =
+    QT_TRANSLATE_NOOP("Localizable", "Show the waveform");
+inline constexpr const char* ShowStatusBarLabel =
+    QT_TRANSLATE_NOOP("Localizable", "Show the status bar");
+inline constexpr const char* ShortcutPrevious =
+    QT_TRANSLATE_NOOP("Localizable", "Previous segment");
+inline constexpr const char* ShortcutNext = QT_TRANSLATE_NOOP("Localizable", "Next segment");
+inline constexpr const char* ShortcutPlayPause = QT_TRANSLATE_NOOP("Localizable", "Play or pause");
+inline constexpr const char* ShortcutRepeatPlay = QT_TRANSLATE_NOOP("Localizable", "Repeat mode");
+inline constexpr const char* ShortcutPlayFirst = QT_TRANSLATE_NOOP("Localizable", "First segment");
+inline constexpr const char* ShortcutSplitAudio =
+    QT_TRANSLATE_NOOP("Localizable", "Split the audio again");
+inline constexpr const char* ShortcutHint = QT_TRANSLATE_NOOP(
+    "Localizable", "Click a field and press the new key. Click elsewhere to finish.");
+inline constexpr const char* ResetToDefaults =
+    QT_TRANSLATE_NOOP("Localizable", "Reset to Defaults");
+inline constexpr const char* ChooseFont = QT_TRANSLATE_NOOP("Localizable", "Choose the dictation font");
+
+inline constexpr std::array PreferencesWindow = {
+    TabGeneral,         TabAppearance,       TabShortcuts,         MinSegmentDurationLabel,
+    PlaySpeedLabel,     RepeatTimesLabel,    LanguageLabel,        LanguageRestartNote,
+    TableBackgroundLabel, TextColorLabel,    FontLabel,            ShowLineNumbersLabel,
+    ShowAudioWaveLabel, ShowStatusBarLabel,  ShortcutPrevious,     ShortcutNext,
+    ShortcutPlayPause,  ShortcutRepeatPlay,  ShortcutPlayFirst,    ShortcutSplitAudio,
+    ShortcutHint,       ResetToDefaults,     ChooseFont};
+
+} // namespace Texts

@@ -20,7 +20,7 @@
 namespace {
 
 constexpr int kDayMs = 86400 * 1000;
-constexpr int kTransferTimeoutMs = 30 * 1000;
+constexpr int kTransferTimeoutMs = 15 * 1000;
 // A lookup answer is a few kilobytes; anything far larger is not one.
 constexpr qint64 kMaxAnswerBytes = 4 * 1024 * 1024;
 
@@ -67,7 +67,7 @@ QString jsonText(const QJsonValue& v)
 CheckAppUpdate::CheckAppUpdate(Defaults& store, UpdateAlerts& alerts, QObject* parent)
     : QObject(parent), m_store(store), m_alerts(alerts), m_network(new QNetworkAccessManager(this)),
       m_bundleIdentifier(QStringLiteral(KELMORA_APP_ID)),
-      m_currentVersion(QStringLiteral(KELMORA_VERSION))
+      m_currentVersion(QStringLiteral(KELMORA_VERSION)), m_transferTimeoutMs(kTransferTimeoutMs)
 {
     m_dailyTimer.setInterval(kDayMs);
     m_dailyTimer.setSingleShot(false);
@@ -124,7 +124,7 @@ void CheckAppUpdate::checkForUpdates(bool reportLatest)
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    request.setTransferTimeout(kTransferTimeoutMs);
+    request.setTransferTimeout(m_transferTimeoutMs);
 
     QNetworkReply* reply = m_network->get(request);
     auto tooLarge = std::make_shared<bool>(false);
@@ -144,13 +144,20 @@ void CheckAppUpdate::checkForUpdates(bool reportLatest)
 
 void CheckAppUpdate::handleReply(QNetworkReply* reply, bool reportLatest, bool tooLarge)
 {
-    // Like the platform's URL session, an HTTP answer of any status is a body to
-    // read; only a failed exchange is a transport error.
-    const bool gotHttpAnswer = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-    if (tooLarge || (reply->error() != QNetworkReply::NoError && !gotHttpAnswer)) {
-        const QString description =
-            tooLarge ? QStringLiteral("The answer is larger than %1 bytes.").arg(kMaxAnswerBytes)
-                     : reply->errorString();
+    // An HTTP error status is a failed exchange too: its body is an error
+    // page, not an answer, whatever it looks like.
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const bool httpError = status >= 400;
+    const bool failed = reply->error() != QNetworkReply::NoError;
+    if (tooLarge || failed || httpError) {
+        QString description;
+        if (tooLarge)
+            description =
+                QStringLiteral("The answer is larger than %1 bytes.").arg(kMaxAnswerBytes);
+        else if (reply->error() == QNetworkReply::OperationCanceledError)
+            description = QStringLiteral("The request timed out.");
+        else
+            description = reply->errorString();
         qInfo("Error checking for updates: %s", qPrintable(description));
         m_alerts.showErrMsg(LocalizedString(Texts::ErrorCheckingForUpdates),
                             LocalizedString(description));

@@ -36,6 +36,11 @@ public:
     QString currentVersion() const { return m_currentVersion; }
     void setCurrentVersion(const QString& version) { m_currentVersion = version; }
 
+    // How long a lookup may wait without any data arriving before it fails
+    // with the error alert (15 s).
+    int transferTimeoutMs() const { return m_transferTimeoutMs; }
+    void setTransferTimeoutMs(int ms) { m_transferTimeoutMs = ms; }
+
     static QString defaultLookupBaseUrl();
     QUrl lookupBaseUrl() const;
     // base + "lookup?bundleId=%@&country=%@&t=%d"
@@ -66,4 +71,5 @@ private:
     QTimer m_dailyTimer;
     QString m_bundleIdentifier;
     QString m_currentVersion;
+    int m_transferTimeoutMs;
 };

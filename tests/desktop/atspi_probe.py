@@ -8,6 +8,8 @@ the way a screen reader would. Usage:
   atspi_probe.py status                 prints the status bar's text
   atspi_probe.py buttons                prints the toolbar and dialog buttons, one a line
   atspi_probe.py press NAME             presses the first button with that name
+  atspi_probe.py text NAME              prints the text of the first control with that name
+  atspi_probe.py centre NAME            prints the screen centre "X Y" of that control
 Exits 1 with a message when what it looks for does not appear in 20 s."""
 
 import sys
@@ -90,8 +92,11 @@ def main(argv):
     command = argv[1]
     if command == "wait-window":
         title = argv[2]
+        # A main window is a frame; a plain top-level window (the preferences)
+        # is whatever its widget is, but always a child of the application.
         until(lambda app: next((n for n in walk(app)
-                                if role(n) == "frame" and n.get_name() == title), None),
+                                if n.get_name() == title and
+                                (role(n) == "frame" or n.get_parent() == app)), None),
               "window " + title)
         print(title)
     elif command == "rows":
@@ -125,6 +130,16 @@ def main(argv):
                                         None), "button " + name)
         button.get_action_iface().do_action(0)
         print("pressed " + name)
+    elif command in ("text", "centre"):
+        name = argv[2]
+        node = until(lambda app: next((n for n in walk(app)
+                                       if n.get_name() == name and role(n) != "label"), None),
+                     "control " + name)
+        if command == "text":
+            print(text_of(node))
+        else:
+            box = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+            print(box.x + box.width // 2, box.y + box.height // 2)
     else:
         sys.exit("unknown command " + command)
 

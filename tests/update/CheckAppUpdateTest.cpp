@@ -1,9 +1,9 @@
 #include "update/CheckAppUpdate.h"
 
-#include "LocalHttpServer.h"
 #include "localization/CountryCode.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
+#include "support/LocalHttpServer.h"
 #include "support/TestSupport.h"
 #include "update/UpdateAlerts.h"
 
@@ -197,7 +197,6 @@ TEST_F(CheckAppUpdateTest, MalformedAnswersShowTheParsingErrorEvenToAQuietCheck)
         {200, "{\"results\": [ oops"},
         {200, "[1, 2, 3]"},
         {200, ""},
-        {500, "<html>Internal Server Error</html>"},
     };
     for (const auto& [status, body] : answers) {
         alerts.shown.clear();
@@ -224,6 +223,36 @@ TEST_F(CheckAppUpdateTest, AnUnreachableServiceShowsTheTransportError)
     EXPECT_TRUE(alerts.shown[0].message.contains("refused", Qt::CaseInsensitive))
         << alerts.shown[0].message.toStdString();
     EXPECT_TRUE(log.contains("Error checking for updates: " + alerts.shown[0].message));
+}
+
+TEST_F(CheckAppUpdateTest, HttpErrorsAndSilentServicesEndInTheTransportError)
+{
+    // An error status fails the check whatever its body says.
+    for (const QByteArray& body :
+         {QByteArray("<html>Internal Server Error</html>"), QByteArray(R"({"results":[]})")}) {
+        alerts.shown.clear();
+        server.answer(500, body);
+        check(true);
+        ASSERT_EQ(alerts.shown.size(), 1);
+        EXPECT_EQ(alerts.shown[0].kind, "error");
+        EXPECT_EQ(alerts.shown[0].title, "Error checking for updates");
+    }
+    alerts.shown.clear();
+    server.answer(404, "{}");
+    check(false);
+    ASSERT_EQ(alerts.shown.size(), 1);
+    EXPECT_EQ(alerts.shown[0].title, "Error checking for updates");
+
+    // A service that never answers is given up on after the transfer timeout.
+    EXPECT_EQ(checker.transferTimeoutMs(), 15000);
+    checker.setTransferTimeoutMs(200);
+    alerts.shown.clear();
+    server.answer(0, {});
+    LogCapture log;
+    check(false);
+    ASSERT_EQ(alerts.shown.size(), 1);
+    EXPECT_EQ(alerts.shown[0].title, "Error checking for updates");
+    EXPECT_TRUE(log.contains("Error checking for updates: The request timed out."));
 }
 
 TEST_F(CheckAppUpdateTest, AnOversizedAnswerIsNotRead)
@@ -253,7 +282,8 @@ TEST(CheckAppUpdate, LookupAddressComesFromTheSettingWhenItIsAWebAddress)
     RecordingAlerts alerts;
     CheckAppUpdate checker(t.store(), alerts);
     EXPECT_EQ(checker.lookupBaseUrl(), QUrl(CheckAppUpdate::defaultLookupBaseUrl()));
-    EXPECT_TRUE(CheckAppUpdate::defaultLookupBaseUrl().startsWith("https://"));
+    // Kelmora's own release feed, never a third party's store.
+    EXPECT_TRUE(CheckAppUpdate::defaultLookupBaseUrl().startsWith("https://kelmora.app/"));
 
     t.store().setObject("http://127.0.0.1:8080/store/", PreferenceKeys::UpdateLookupURL);
     EXPECT_EQ(checker.lookupBaseUrl(), QUrl("http://127.0.0.1:8080/store/"));

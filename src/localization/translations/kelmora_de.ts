@@ -411,5 +411,97 @@ Versionshinweise:
         <source>Status bar</source>
         <translation>Statusleiste</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>Kürzester Abschnitt (Sekunden)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>Wiedergabegeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>Wiedergaben je Abschnitt im Wiederholmodus</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>Eine neue Sprache erscheint nach einem Neustart.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>Tabellenhintergrund</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>Zeilennummern anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>Wellenform anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>Statusleiste anzeigen</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>Vorheriger Abschnitt</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>Nächster Abschnitt</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Wiedergabe oder Pause</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>Wiederholmodus</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>Erster Abschnitt</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>Audio neu aufteilen</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>Klicken Sie auf ein Feld und drücken Sie die neue Taste. Klicken Sie zum Abschließen woanders hin.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Auf Standardwerte zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>Schrift des Diktats wählen</translation>
+    </message>
 </context>
 </TS>

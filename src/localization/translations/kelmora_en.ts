@@ -411,5 +411,97 @@ Release Notes:
         <source>Status bar</source>
         <translation>Status bar</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Shortcuts</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>Shortest segment (seconds)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>Play speed</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>Plays of each segment in repeat mode</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>A new language shows after a restart.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>Table background</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Text colour</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>Show line numbers</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>Show the waveform</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>Show the status bar</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>Previous segment</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>Next segment</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Play or pause</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>Repeat mode</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>First segment</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>Split the audio again</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>Click a field and press the new key. Click elsewhere to finish.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Reset to Defaults</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>Choose the dictation font</translation>
+    </message>
 </context>
 </TS>

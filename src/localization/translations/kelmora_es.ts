@@ -411,5 +411,97 @@ Notas de la versión:
         <source>Status bar</source>
         <translation>Barra de estado</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atajos</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>Segmento más corto (segundos)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>Velocidad de reproducción</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>Reproducciones de cada segmento en modo repetición</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>El nuevo idioma se verá tras reiniciar.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>Fondo de la tabla</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Color del texto</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>Mostrar números de línea</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>Mostrar la forma de onda</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>Mostrar la barra de estado</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>Segmento anterior</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>Segmento siguiente</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Reproducir o pausar</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>Modo repetición</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>Primer segmento</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>Volver a dividir el audio</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>Haz clic en un campo y pulsa la nueva tecla. Haz clic en otro sitio para terminar.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Restablecer valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>Elegir la fuente del dictado</translation>
+    </message>
 </context>
 </TS>

@@ -411,5 +411,97 @@ Notes de version :
         <source>Status bar</source>
         <translation>Barre d'état</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>Segment le plus court (secondes)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>Vitesse de lecture</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>Lectures de chaque segment en mode répétition</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>La nouvelle langue s’affiche après un redémarrage.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>Fond du tableau</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Couleur du texte</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>Afficher les numéros de ligne</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>Afficher la forme d’onde</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>Afficher la barre d’état</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>Segment précédent</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>Segment suivant</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Lecture ou pause</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>Mode répétition</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>Premier segment</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>Redécouper l’audio</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>Cliquez sur un champ puis appuyez sur la nouvelle touche. Cliquez ailleurs pour terminer.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Rétablir les réglages par défaut</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>Choisir la police de la dictée</translation>
+    </message>
 </context>
 </TS>

@@ -411,5 +411,97 @@ Release Notes:
         <source>Status bar</source>
         <translation>ステータスバー</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>最短セグメント（秒）</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>再生速度</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>リピートモードでの各セグメントの再生回数</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>新しい言語は再起動後に反映されます。</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>表の背景</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>文字の色</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>行番号を表示</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>波形を表示</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>ステータスバーを表示</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>前のセグメント</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>次のセグメント</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>再生 / 一時停止</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>リピートモード</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>最初のセグメント</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>音声を再分割</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>フィールドをクリックして新しいキーを押してください。終えるには他の場所をクリックします。</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>デフォルトに戻す</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>ディクテーションのフォントを選択</translation>
+    </message>
 </context>
 </TS>

@@ -411,5 +411,97 @@ Release Notes:
         <source>Status bar</source>
         <translation>상태 표시줄</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>모양</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>단축키</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>가장 짧은 구간(초)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>재생 속도</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>반복 모드에서 구간별 재생 횟수</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>새 언어는 다시 시작한 후에 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>표 배경</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>글자 색</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>글꼴</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>줄 번호 표시</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>파형 표시</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>상태 표시줄 표시</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>이전 구간</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>다음 구간</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>재생 또는 일시 정지</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>반복 모드</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>첫 구간</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>오디오 다시 나누기</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>입력란을 클릭하고 새 키를 누르세요. 끝내려면 다른 곳을 클릭하세요.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>기본값으로 재설정</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>받아쓰기 글꼴 선택</translation>
+    </message>
 </context>
 </TS>

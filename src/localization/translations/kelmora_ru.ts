@@ -411,5 +411,97 @@ Release Notes:
         <source>Status bar</source>
         <translation>Строка состояния</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Оформление</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Сочетания клавиш</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>Кратчайший сегмент (секунды)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>Скорость воспроизведения</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>Повторов каждого сегмента в режиме повтора</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>Новый язык появится после перезапуска.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>Фон таблицы</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Цвет текста</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Шрифт</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>Показывать номера строк</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>Показывать форму волны</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>Показывать строку состояния</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>Предыдущий сегмент</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>Следующий сегмент</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Воспроизведение или пауза</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>Режим повтора</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>Первый сегмент</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>Заново разбить аудио</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>Щёлкните поле и нажмите новую клавишу. Чтобы закончить, щёлкните в другом месте.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Восстановить настройки по умолчанию</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>Выбрать шрифт диктанта</translation>
+    </message>
 </context>
 </TS>

@@ -411,5 +411,97 @@ Release Notes:
         <source>Status bar</source>
         <translation>แถบสถานะ</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>ทั่วไป</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>รูปลักษณ์</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>ปุ่มลัด</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>ช่วงที่สั้นที่สุด (วินาที)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>ความเร็วในการเล่น</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>จำนวนครั้งที่เล่นแต่ละช่วงในโหมดเล่นซ้ำ</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>ภาษา</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>ภาษาใหม่จะแสดงหลังจากเริ่มโปรแกรมใหม่</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>พื้นหลังตาราง</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>สีตัวอักษร</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>แบบอักษร</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>แสดงหมายเลขบรรทัด</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>แสดงรูปคลื่นเสียง</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>แสดงแถบสถานะ</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>ช่วงก่อนหน้า</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>ช่วงถัดไป</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>เล่นหรือหยุดชั่วคราว</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>โหมดเล่นซ้ำ</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>ช่วงแรก</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>แบ่งเสียงใหม่อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>คลิกที่ช่องแล้วกดปุ่มใหม่ คลิกที่อื่นเพื่อเสร็จสิ้น</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>คืนค่าเริ่มต้น</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>เลือกแบบอักษรของการเขียนตามคำบอก</translation>
+    </message>
 </context>
 </TS>

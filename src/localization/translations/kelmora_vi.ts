@@ -411,5 +411,97 @@ Ghi chú phát hành:
         <source>Status bar</source>
         <translation>Thanh trạng thái</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Chung</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Giao diện</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Phím tắt</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>Đoạn ngắn nhất (giây)</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>Tốc độ phát</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>Số lần phát mỗi đoạn ở chế độ lặp lại</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Ngôn ngữ</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>Ngôn ngữ mới sẽ hiển thị sau khi khởi động lại.</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>Nền bảng</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Màu chữ</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Phông chữ</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>Hiện số dòng</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>Hiện dạng sóng</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>Hiện thanh trạng thái</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>Đoạn trước</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>Đoạn tiếp theo</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Phát hoặc tạm dừng</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>Chế độ lặp lại</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>Đoạn đầu tiên</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>Chia lại âm thanh</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>Nhấp vào một ô rồi nhấn phím mới. Nhấp ra chỗ khác để hoàn tất.</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Khôi phục mặc định</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>Chọn phông chữ cho bài chính tả</translation>
+    </message>
 </context>
 </TS>

@@ -411,5 +411,97 @@ Release Notes:
         <source>Status bar</source>
         <translation>状态栏</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>通用</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Shortest segment (seconds)</source>
+        <translation>最短分段（秒）</translation>
+    </message>
+    <message>
+        <source>Play speed</source>
+        <translation>播放速度</translation>
+    </message>
+    <message>
+        <source>Plays of each segment in repeat mode</source>
+        <translation>重复模式下每个分段的播放次数</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>A new language shows after a restart.</source>
+        <translation>新语言将在重新启动后生效。</translation>
+    </message>
+    <message>
+        <source>Table background</source>
+        <translation>表格背景</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>文字颜色</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Show line numbers</source>
+        <translation>显示行号</translation>
+    </message>
+    <message>
+        <source>Show the waveform</source>
+        <translation>显示波形</translation>
+    </message>
+    <message>
+        <source>Show the status bar</source>
+        <translation>显示状态栏</translation>
+    </message>
+    <message>
+        <source>Previous segment</source>
+        <translation>上一分段</translation>
+    </message>
+    <message>
+        <source>Next segment</source>
+        <translation>下一分段</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>播放或暂停</translation>
+    </message>
+    <message>
+        <source>Repeat mode</source>
+        <translation>重复模式</translation>
+    </message>
+    <message>
+        <source>First segment</source>
+        <translation>第一个分段</translation>
+    </message>
+    <message>
+        <source>Split the audio again</source>
+        <translation>重新切分音频</translation>
+    </message>
+    <message>
+        <source>Click a field and press the new key. Click elsewhere to finish.</source>
+        <translation>点击一个输入框，然后按下新的按键。点击其他位置即可完成。</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>恢复默认设置</translation>
+    </message>
+    <message>
+        <source>Choose the dictation font</source>
+        <translation>选择听写字体</translation>
+    </message>
 </context>
 </TS>

@@ -5,7 +5,8 @@
 #include <QTcpServer>
 
 // A real HTTP/1.1 server on 127.0.0.1 for the update check: it answers every
-// request with the status and body it was given and records what it received.
+// request with the status and body it was given (status 0: never answers) and
+// records what it received.
 class LocalHttpServer : public QObject
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-#include "LocalHttpServer.h"
+#include "support/LocalHttpServer.h"
 
 #include <QHostAddress>
 #include <QTcpSocket>
@@ -47,6 +47,8 @@ void LocalHttpServer::serve(QTcpSocket* socket)
     for (qsizetype i = 1; i < lines.size(); ++i)
         request.headerLines << lines[i].trimmed().toLower();
     m_requests << request;
+    if (m_status == 0)
+        return; // a service that takes the request and never answers
 
     const QByteArray reason = m_status == 200 ? "OK" : "Error";
     socket->write("HTTP/1.1 " + QByteArray::number(m_status) + ' ' + reason + "\r\n" +

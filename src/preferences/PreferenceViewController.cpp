@@ -1,0 +1,315 @@
+#include "preferences/PreferenceViewController.h"
+
+#include "app/Utility.h"
+#include "audio/AudioManager.h"
+#include "localization/LanguageManager.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+#include "preferences/ColorWell.h"
+#include "preferences/DefaultPreferences.h"
+#include "preferences/Defaults.h"
+#include "preferences/Keyboard.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/PreferenceKeys.h"
+#include "preferences/RepeatTimesSpinBox.h"
+#include "preferences/ShortcutTextField.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+const char* const kShortcutTexts[ShortcutCount] = {
+    Texts::ShortcutPrevious,   Texts::ShortcutNext,      Texts::ShortcutPlayPause,
+    Texts::ShortcutRepeatPlay, Texts::ShortcutPlayFirst, Texts::ShortcutSplitAudio};
+
+QFormLayout* makeForm(QWidget* page)
+{
+    auto* form = new QFormLayout(page);
+    // Long labels (Russian, German) put their control on the next line
+    // instead of being cut off.
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    return form;
+}
+
+QLabel* buddyLabel(const char* text, QWidget* control)
+{
+    auto* label = new QLabel(LocalizedString(text));
+    label->setBuddy(control);
+    control->setAccessibleName(LocalizedString(text));
+    return label;
+}
+
+} // namespace
+
+PreferenceViewController::PreferenceViewController(AudioManager& engine, Defaults& defaults,
+                                                   NotificationCenter& center,
+                                                   LanguageManager& language, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_engine(engine), m_defaults(defaults), m_center(center),
+      m_language(language)
+{
+    setObjectName(QStringLiteral("preferencesWindow"));
+    setWindowTitle(LocalizedString(Texts::Preferences));
+    setAccessibleName(LocalizedString(Texts::Preferences));
+    setupUI();
+    initKeyboardShortcuts();
+    loadCurrentSettings();
+    resize(400, 500);
+}
+
+PreferenceViewController::~PreferenceViewController() = default;
+
+void PreferenceViewController::setupUI()
+{
+    auto* layout = new QVBoxLayout(this);
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("preferenceTabs"));
+    m_tabs->addTab(buildGeneralTab(), LocalizedString(Texts::TabGeneral));
+    m_tabs->addTab(buildAppearanceTab(), LocalizedString(Texts::TabAppearance));
+    m_tabs->addTab(buildShortcutsTab(), LocalizedString(Texts::TabShortcuts));
+    layout->addWidget(m_tabs);
+
+    m_resetButton = new QPushButton(LocalizedString(Texts::ResetToDefaults), this);
+    m_resetButton->setObjectName(QStringLiteral("resetButton"));
+    m_resetButton->setAutoDefault(false);
+    connect(m_resetButton, &QPushButton::clicked, this, &PreferenceViewController::resetToDefaults);
+    auto* bottom = new QHBoxLayout;
+    bottom->addStretch();
+    bottom->addWidget(m_resetButton);
+    layout->addLayout(bottom);
+
+    // A click on an empty part of the window takes the focus, which ends a
+    // shortcut field's recording.
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+QWidget* PreferenceViewController::buildGeneralTab()
+{
+    auto* page = new QWidget;
+    page->setFocusPolicy(Qt::ClickFocus);
+    QFormLayout* form = makeForm(page);
+
+    m_minSegmentDurationStepper = new QDoubleSpinBox;
+    m_minSegmentDurationStepper->setObjectName(QStringLiteral("minSegmentDurationStepper"));
+    m_minSegmentDurationStepper->setRange(1.0, 10.0);
+    m_minSegmentDurationStepper->setSingleStep(0.1);
+    m_minSegmentDurationStepper->setDecimals(2);
+    // Typed values count when the field is left or Return is pressed, not at
+    // every keystroke.
+    m_minSegmentDurationStepper->setKeyboardTracking(false);
+    connect(m_minSegmentDurationStepper, &QDoubleSpinBox::valueChanged, this,
+            &PreferenceViewController::stepperValueChanged);
+    form->addRow(buddyLabel(Texts::MinSegmentDurationLabel, m_minSegmentDurationStepper),
+                 m_minSegmentDurationStepper);
+
+    m_playSpeedStepper = new QDoubleSpinBox;
+    m_playSpeedStepper->setObjectName(QStringLiteral("playSpeedStepper"));
+    m_playSpeedStepper->setRange(0.3, 3.0);
+    m_playSpeedStepper->setSingleStep(0.1);
+    m_playSpeedStepper->setDecimals(1);
+    m_playSpeedStepper->setSuffix(QStringLiteral("×"));
+    m_playSpeedStepper->setKeyboardTracking(false);
+    connect(m_playSpeedStepper, &QDoubleSpinBox::valueChanged, this,
+            &PreferenceViewController::playSpeedStepperValueChanged);
+    form->addRow(buddyLabel(Texts::PlaySpeedLabel, m_playSpeedStepper), m_playSpeedStepper);
+
+    m_repeatPlayTimesStepper = new RepeatTimesSpinBox;
+    m_repeatPlayTimesStepper->setObjectName(QStringLiteral("repeatPlayTimesStepper"));
+    m_repeatPlayTimesStepper->setRange(1, 99999);
+    m_repeatPlayTimesStepper->setSingleStep(1);
+    m_repeatPlayTimesStepper->setKeyboardTracking(false);
+    connect(m_repeatPlayTimesStepper, &QSpinBox::valueChanged, this,
+            &PreferenceViewController::repeatPlayTimesStepperValueChanged);
+    form->addRow(buddyLabel(Texts::RepeatTimesLabel, m_repeatPlayTimesStepper),
+                 m_repeatPlayTimesStepper);
+
+    m_languagePopUpButton = new QComboBox;
+    m_languagePopUpButton->setObjectName(QStringLiteral("languagePopUpButton"));
+    fillLanguagePopUp();
+    connect(m_languagePopUpButton, &QComboBox::activated, this,
+            &PreferenceViewController::languageChanged);
+    form->addRow(buddyLabel(Texts::LanguageLabel, m_languagePopUpButton), m_languagePopUpButton);
+    auto* note = new QLabel(LocalizedString(Texts::LanguageRestartNote));
+    note->setWordWrap(true);
+    note->setForegroundRole(QPalette::PlaceholderText);
+    form->addRow(note);
+    return page;
+}
+
+QWidget* PreferenceViewController::buildAppearanceTab()
+{
+    auto* page = new QWidget;
+    page->setFocusPolicy(Qt::ClickFocus);
+    QFormLayout* form = makeForm(page);
+
+    m_tableBackgroundColorWell = new ColorWell;
+    m_tableBackgroundColorWell->setObjectName(QStringLiteral("tableBackgroundColorWell"));
+    connect(m_tableBackgroundColorWell, &ColorWell::colorChanged, this,
+            &PreferenceViewController::tableBackgroundColorChanged);
+    form->addRow(buddyLabel(Texts::TableBackgroundLabel, m_tableBackgroundColorWell),
+                 m_tableBackgroundColorWell);
+
+    m_dictationTextColorWell = new ColorWell;
+    m_dictationTextColorWell->setObjectName(QStringLiteral("dictationTextColorWell"));
+    connect(m_dictationTextColorWell, &ColorWell::colorChanged, this,
+            &PreferenceViewController::dictationTextColorChanged);
+    form->addRow(buddyLabel(Texts::TextColorLabel, m_dictationTextColorWell),
+                 m_dictationTextColorWell);
+
+    m_fontDisplayLabel = new QPushButton;
+    m_fontDisplayLabel->setObjectName(QStringLiteral("fontDisplayLabel"));
+    m_fontDisplayLabel->setToolTip(LocalizedString(Texts::ChooseFont));
+    connect(m_fontDisplayLabel, &QPushButton::clicked, this,
+            &PreferenceViewController::showFontPanel);
+    form->addRow(buddyLabel(Texts::FontLabel, m_fontDisplayLabel), m_fontDisplayLabel);
+
+    auto makeSwitch = [&](const char* name, const char* text, void (PreferenceViewController::*slot)(bool)) {
+        auto* box = new QCheckBox(LocalizedString(text));
+        box->setObjectName(QLatin1String(name));
+        connect(box, &QCheckBox::toggled, this, slot);
+        form->addRow(box);
+        return box;
+    };
+    m_showLineNumbersSwitch = makeSwitch("showLineNumbersSwitch", Texts::ShowLineNumbersLabel,
+                                         &PreferenceViewController::showLineNumbersChanged);
+    m_showAudioWaveSwitch = makeSwitch("showAudioWaveSwitch", Texts::ShowAudioWaveLabel,
+                                       &PreferenceViewController::showAudioWaveChanged);
+    m_showStatusBarSwitch = makeSwitch("showStatusBarSwitch", Texts::ShowStatusBarLabel,
+                                       &PreferenceViewController::showStatusBarChanged);
+    return page;
+}
+
+QWidget* PreferenceViewController::buildShortcutsTab()
+{
+    auto* page = new QWidget;
+    page->setFocusPolicy(Qt::ClickFocus);
+    QFormLayout* form = makeForm(page);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    auto* hint = new QLabel(LocalizedString(Texts::ShortcutHint));
+    hint->setWordWrap(true);
+    form->addRow(hint);
+    for (std::size_t i = 0; i < ShortcutCount; ++i) {
+        auto* field = new ShortcutTextField;
+        field->setObjectName(QLatin1String(shortcutBindings()[i].fieldIdentifier));
+        field->setMinimumWidth(120);
+        m_shortcutFields[i] = field;
+        form->addRow(buddyLabel(kShortcutTexts[i], field), field);
+    }
+    return page;
+}
+
+void PreferenceViewController::initKeyboardShortcuts()
+{
+    for (std::size_t i = 0; i < ShortcutCount; ++i) {
+        const QString key = QLatin1String(shortcutBindings()[i].defaultsKey);
+        // No check for a key another command uses: the first in matching
+        // order wins at play time.
+        connect(m_shortcutFields[i], &ShortcutTextField::shortcutChanged, this,
+                [this, key](qint64 keyCode, quint64 flags) {
+                    ObjectStorage(m_defaults).setKeyboardShortcut(KeyboardShortcut(keyCode, flags),
+                                                                  key);
+                    m_defaults.synchronize();
+                });
+    }
+}
+
+void PreferenceViewController::fillLanguagePopUp()
+{
+    const QSignalBlocker blocker(m_languagePopUpButton);
+    m_languagePopUpButton->clear();
+    for (const LanguageManager::Language& language : LanguageManager::supportedLanguages())
+        m_languagePopUpButton->addItem(LocalizedString(language.englishName),
+                                       QString::fromLatin1(language.code));
+    selectLanguageItem(m_language.currentLanguage());
+}
+
+void PreferenceViewController::selectLanguageItem(const QString& code)
+{
+    const int index = m_languagePopUpButton->findData(code);
+    if (index >= 0) {
+        const QSignalBlocker blocker(m_languagePopUpButton);
+        m_languagePopUpButton->setCurrentIndex(index);
+    }
+}
+
+void PreferenceViewController::loadCurrentSettings()
+{
+    using namespace PreferenceKeys;
+    m_engine.loadSettings();
+    {
+        const QSignalBlocker b1(m_minSegmentDurationStepper), b2(m_playSpeedStepper),
+            b3(m_repeatPlayTimesStepper);
+        m_minSegmentDurationStepper->setValue(m_engine.minSegmentDuration());
+        m_playSpeedStepper->setValue(m_engine.currentRate());
+        m_repeatPlayTimesStepper->setValue(static_cast<int>(m_engine.maxRepeatPlayTimes()));
+    }
+    const ObjectStorage storage(m_defaults);
+    m_tableBackgroundColorWell->setColor(
+        storage.colorForKey(TableBackgroundColor).value_or(DefaultLook::tableBackgroundColor()));
+    m_dictationTextColorWell->setColor(
+        storage.colorForKey(DictationTextColor).value_or(DefaultLook::dictationTextColor()));
+    {
+        const QSignalBlocker b1(m_showLineNumbersSwitch), b2(m_showAudioWaveSwitch),
+            b3(m_showStatusBarSwitch);
+        m_showLineNumbersSwitch->setChecked(m_defaults.boolForKey(ShowLineNumbers));
+        m_showAudioWaveSwitch->setChecked(m_defaults.boolForKey(ShowAudioWave));
+        m_showStatusBarSwitch->setChecked(m_defaults.boolForKey(ShowStatusBar));
+    }
+    m_font = storage.fontForKey(DictationTextFont).value_or(DefaultLook::dictationTextFont());
+    updateFontDisplayLabel();
+    for (std::size_t i = 0; i < ShortcutCount; ++i) {
+        const ShortcutBinding& binding = shortcutBindings()[i];
+        const KeyboardShortcut shortcut =
+            storage.keyboardShortcutForKey(binding.defaultsKey).value_or(binding.defaultShortcut);
+        m_shortcutFields[i]->setShortcut(shortcut.keyCode(), shortcut.modifierFlags());
+    }
+    selectLanguageItem(m_language.currentLanguage());
+    printPreference();
+}
+
+QString PreferenceViewController::fontDisplayText(const QFont& font)
+{
+    return QStringLiteral("%1 - %2").arg(font.family()).arg(font.pointSizeF(), 0, 'f', 1);
+}
+
+void PreferenceViewController::updateFontDisplayLabel()
+{
+    m_fontDisplayLabel->setText(fontDisplayText(m_font));
+}
+
+void PreferenceViewController::printPreference() const
+{
+    auto hex = [](const QColor& c) { return Utility::hexStringFromColor(c).value_or(QString()); };
+    qInfo("========Preference===================================================");
+    qInfo("minSegmentDuration=%f", m_minSegmentDurationStepper->value());
+    qInfo("playSpeed=%f", m_playSpeedStepper->value());
+    qInfo("repeatPlayTimes=%d", m_repeatPlayTimesStepper->value());
+    const QColor text = m_dictationTextColorWell->color();
+    const QColor background = m_tableBackgroundColorWell->color();
+    qInfo("dictationTextColor=%s,value=%s", qUtf8Printable(text.name(QColor::HexArgb)),
+          qUtf8Printable(hex(text)));
+    qInfo("tableBackgroundColor=%s,value=%s", qUtf8Printable(background.name(QColor::HexArgb)),
+          qUtf8Printable(hex(background)));
+    qInfo("showLineNumber=%d", int(m_showLineNumbersSwitch->isChecked()));
+    qInfo("showAudioWave=%d", int(m_showAudioWaveSwitch->isChecked()));
+    qInfo("showStatusBar=%d", int(m_showStatusBarSwitch->isChecked()));
+    qInfo("dictionfont=%s", qUtf8Printable(m_fontDisplayLabel->text()));
+    for (std::size_t i = 0; i < ShortcutCount; ++i) {
+        const ShortcutTextField* field = m_shortcutFields[i];
+        qInfo("%s key,%s,keycode=%lld,modifierflags=%llu", shortcutBindings()[i].fieldIdentifier,
+              qUtf8Printable(Keyboard::keyCodeToString(field->keyCode())),
+              static_cast<long long>(field->keyCode()),
+              static_cast<unsigned long long>(field->modifierFlags()));
+    }
+    qInfo("=====================================================================");
+}

@@ -1,0 +1,242 @@
+// The preferences window offscreen: each control writes its setting at once
+// and tells the application; the repeat field's typed input; reset and its
+// order; a recording field when the window closes.
+
+#include "app/WindowHarness.h"
+#include "preferences/ColorWell.h"
+#include "preferences/Defaults.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/PreferenceKeys.h"
+#include "preferences/PreferenceFixture.h"
+#include "preferences/RepeatTimesSpinBox.h"
+#include "preferences/ShortcutTextField.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFontDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <gtest/gtest.h>
+
+using namespace PreferenceKeys;
+
+namespace {
+template <typename Dialog>
+Dialog* openDialog(QWidget* window, const char* name)
+{
+    Dialog* dialog = nullptr;
+    waitFor([&] { return (dialog = window->findChild<Dialog*>(QLatin1String(name))) != nullptr; });
+    return dialog;
+}
+} // namespace
+
+TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
+{
+    TestSupport::LogCapture log;
+    PreferenceFixture f([](Defaults& d) {
+        d.setDouble(2.5, MinSegmentDuration);
+        d.setDouble(0.2, PlaySpeed); // out of the engine's range: 1.0
+        d.setInteger(12000, MaxRepeatPlayTimes); // over the engine's bound: 20
+        d.setBool(false, ShowAudioWave);
+    });
+    EXPECT_EQ(f.window->size(), QSize(400, 500));
+    EXPECT_EQ(f.window->windowTitle(), "Preferences");
+    EXPECT_DOUBLE_EQ(f.control<QDoubleSpinBox>("minSegmentDurationStepper")->value(), 2.5);
+    EXPECT_EQ(f.control<QDoubleSpinBox>("minSegmentDurationStepper")->text(), "2.50");
+    EXPECT_EQ(f.control<QDoubleSpinBox>("playSpeedStepper")->text(), QString::fromUtf8("1.0×"));
+    EXPECT_EQ(f.control<QSpinBox>("repeatPlayTimesStepper")->text(), "20");
+    EXPECT_FALSE(f.control<QCheckBox>("showAudioWaveSwitch")->isChecked());
+    EXPECT_TRUE(f.control<QCheckBox>("showStatusBarSwitch")->isChecked());
+    EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "Menlo - 20.0");
+    EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), QString::fromUtf8("⌃R"));
+    EXPECT_EQ(f.control<ShortcutTextField>("splitaudio")->text(), "F2");
+
+    // The language pop-up in its table's order, each name in the interface language.
+    QComboBox* languages = f.control<QComboBox>("languagePopUpButton");
+    ASSERT_EQ(languages->count(), 10);
+    EXPECT_EQ(languages->itemData(1).toString(), "zh-Hans");
+    EXPECT_EQ(languages->itemText(1), "Chinese(Simplified)");
+    EXPECT_EQ(languages->currentData().toString(), "en");
+
+    const QStringList& lines = log.lines();
+    const auto start = lines.indexOf(
+        "========Preference===================================================");
+    ASSERT_GE(start, 0);
+    EXPECT_EQ(lines.value(start + 1), "minSegmentDuration=2.500000");
+    EXPECT_EQ(lines.value(start + 5), "tableBackgroundColor=#ff123f7c,value=#123F7C");
+    EXPECT_EQ(lines.value(start + 9), "dictionfont=Menlo - 20.0");
+    EXPECT_EQ(lines.value(start + 10), QString::fromUtf8("previous key,↑,keycode=126,modifierflags=0"));
+    EXPECT_EQ(lines.value(start + 16),
+              "=====================================================================");
+}
+
+TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
+{
+    PreferenceFixture f;
+    Defaults& d = f.defaults.store();
+
+    auto* duration = f.control<QDoubleSpinBox>("minSegmentDurationStepper");
+    duration->stepUp();
+    EXPECT_DOUBLE_EQ(d.doubleForKey(MinSegmentDuration), 1.1);
+    EXPECT_DOUBLE_EQ(f.engine->minSegmentDuration(), 1.1);
+    EXPECT_DOUBLE_EQ(d.doubleForKey(Sensitivity), 1.0);
+
+    auto* speed = f.control<QDoubleSpinBox>("playSpeedStepper");
+    speed->setValue(2.9);
+    speed->stepUp();
+    speed->stepUp(); // stops at 3.0
+    EXPECT_DOUBLE_EQ(d.doubleForKey(PlaySpeed), 3.0);
+    EXPECT_FLOAT_EQ(f.engine->currentRate(), 3.0f);
+
+    auto* repeat = f.control<QSpinBox>("repeatPlayTimesStepper");
+    repeat->setValue(12000);
+    EXPECT_EQ(d.integerForKey(MaxRepeatPlayTimes), 12000);
+    EXPECT_FLOAT_EQ(f.engine->maxRepeatPlayTimes(), 12000.0f);
+    // After a restart the engine's own bound applies.
+    Defaults nextRun(f.defaults.path());
+    AudioManager restarted(nextRun, f.center);
+    EXPECT_FLOAT_EQ(restarted.maxRepeatPlayTimes(), 20.0f);
+    Defaults& e = d;
+
+    f.window->findChild<QTabWidget*>()->setCurrentIndex(1);
+    for (const char* name : {"showLineNumbersSwitch", "showAudioWaveSwitch", "showStatusBarSwitch"}) {
+        auto* box = f.control<QCheckBox>(name);
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2)); // the box itself
+    }
+    EXPECT_FALSE(e.boolForKey(ShowLineNumbers));
+    EXPECT_FALSE(e.boolForKey(ShowAudioWave));
+    EXPECT_FALSE(e.boolForKey(ShowStatusBar));
+    ASSERT_EQ(f.posted, (QStringList{"ShowLineNumbersDidChange", "ShowAudioWaveDidChange",
+                                     "ShowStatusBarDidChange"}));
+    EXPECT_EQ(f.objects[0], QVariant(false));
+
+    auto* well = f.control<ColorWell>("tableBackgroundColorWell");
+    QTest::mouseClick(well, Qt::LeftButton);
+    auto* colors = openDialog<QColorDialog>(f.window.get(), "colorDialog");
+    ASSERT_NE(colors, nullptr);
+    colors->setCurrentColor(QColor(10, 200, 30));
+    colors->accept();
+    EXPECT_EQ(ObjectStorage(e).colorForKey(TableBackgroundColor), QColor(10, 200, 30));
+    EXPECT_EQ(f.posted.last(), "TableBackgroundColorDidChange");
+    EXPECT_EQ(f.objects.last().value<QColor>(), QColor(10, 200, 30));
+    // The well shows the colour it holds.
+    const QImage drawn = well->grab().toImage();
+    EXPECT_EQ(drawn.pixelColor(QPoint(well->width() / 2, well->height() / 2) * drawn.devicePixelRatio()),
+              QColor(10, 200, 30));
+
+    // A cancelled colour dialog changes nothing.
+    f.control<ColorWell>("dictationTextColorWell")->activate();
+    colors = openDialog<QColorDialog>(f.window.get(), "colorDialog");
+    ASSERT_NE(colors, nullptr);
+    colors->setCurrentColor(Qt::red);
+    colors->reject();
+    EXPECT_EQ(f.posted.last(), "TableBackgroundColorDidChange");
+    EXPECT_EQ(ObjectStorage(e).colorForKey(DictationTextColor), QColor(228, 223, 78));
+
+    QTest::mouseClick(f.control<QPushButton>("fontDisplayLabel"), Qt::LeftButton);
+    auto* fonts = openDialog<QFontDialog>(f.window.get(), "fontDialog");
+    ASSERT_NE(fonts, nullptr);
+    QFont chosen(QStringLiteral("DejaVu Sans"));
+    chosen.setPointSizeF(14.0);
+    fonts->setCurrentFont(chosen);
+    fonts->accept();
+    const std::optional<QFont> stored = ObjectStorage(e).fontForKey(DictationTextFont);
+    ASSERT_TRUE(stored);
+    EXPECT_EQ(stored->family(), "DejaVu Sans");
+    EXPECT_DOUBLE_EQ(stored->pointSizeF(), 14.0);
+    EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "DejaVu Sans - 14.0");
+    EXPECT_EQ(f.posted.last(), "DictationTextFontDidChange");
+}
+
+TEST(PreferenceWindow, TypedRepeatCountStopsAtFiveDigitsAndAnEmptyFieldBecomesTheMinimum)
+{
+    PreferenceFixture f;
+    auto* repeat = f.control<RepeatTimesSpinBox>("repeatPlayTimesStepper");
+    QLineEdit* edit = repeat->findChild<QLineEdit*>();
+    repeat->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, "123456");
+    EXPECT_EQ(edit->text(), "12345");
+    EXPECT_EQ(repeat->lastInputError(), "Input must not exceed 6 digits");
+    QTest::keyClicks(edit, "x");
+    EXPECT_EQ(edit->text(), "12345");
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(f.defaults.store().integerForKey(MaxRepeatPlayTimes), 12345);
+
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    EXPECT_EQ(edit->text(), "");
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(repeat->value(), 1);
+    EXPECT_EQ(f.defaults.store().integerForKey(MaxRepeatPlayTimes), 1);
+    EXPECT_FLOAT_EQ(f.engine->maxRepeatPlayTimes(), 1.0f);
+}
+
+TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
+{
+    PreferenceFixture f;
+    f.control<QSpinBox>("repeatPlayTimesStepper")->setValue(7);
+    f.control<QDoubleSpinBox>("playSpeedStepper")->setValue(2.0);
+    f.control<QCheckBox>("showStatusBarSwitch")->setChecked(false);
+    ObjectStorage(f.defaults.store()).setKeyboardShortcut(KeyboardShortcut(3, 0), NextSegmentShortcut);
+    f.language->changeLanguage("ja");
+    f.posted.clear();
+    f.objects.clear();
+
+    AlertAnswerer answerer(QStringLiteral("OK"));
+    QTest::mouseClick(f.control<QPushButton>("resetButton"), Qt::LeftButton);
+    ASSERT_TRUE(answerer.waitForAlerts(1));
+    EXPECT_EQ(answerer.seen()[0].text, "Settings Reset");
+    EXPECT_EQ(answerer.seen()[0].informativeText,
+              "All settings have been restored to their default values");
+
+    EXPECT_EQ(f.posted, (QStringList{"TableBackgroundColorDidChange", "DictationTextColorDidChange",
+                                     "ShowLineNumbersDidChange", "ShowAudioWaveDidChange",
+                                     "ShowStatusBarDidChange", "DictationTextFontDidChange",
+                                     "LanguageDidChangeNotification"}));
+    Defaults& d = f.defaults.store();
+    EXPECT_DOUBLE_EQ(d.doubleForKey(PlaySpeed), 1.0);
+    EXPECT_EQ(f.control<QDoubleSpinBox>("playSpeedStepper")->value(), 1.0);
+    EXPECT_EQ(d.integerForKey(MaxRepeatPlayTimes), 7);
+    EXPECT_EQ(f.control<QSpinBox>("repeatPlayTimesStepper")->value(), 7);
+    EXPECT_TRUE(d.boolForKey(ShowStatusBar));
+    EXPECT_TRUE(f.control<QCheckBox>("showStatusBarSwitch")->isChecked());
+    EXPECT_EQ(f.language->currentLanguage(), "en");
+    EXPECT_EQ(f.control<QComboBox>("languagePopUpButton")->currentData().toString(), "en");
+    EXPECT_EQ(ObjectStorage(d).keyboardShortcutForKey(NextSegmentShortcut), KeyboardShortcut(125, 0));
+    EXPECT_EQ(f.control<ShortcutTextField>("next")->text(), QString::fromUtf8("↓"));
+}
+
+TEST(PreferenceWindow, ResetWithoutAnEnglishItemLeavesTheLanguageAlone)
+{
+    PreferenceFixture f;
+    f.language->changeLanguage("ja");
+    auto* languages = f.control<QComboBox>("languagePopUpButton");
+    languages->removeItem(languages->findData("en"));
+    f.posted.clear();
+    AlertAnswerer answerer(QStringLiteral("OK"));
+    f.window->resetToDefaults();
+    ASSERT_TRUE(answerer.waitForAlerts(1));
+    EXPECT_EQ(f.language->currentLanguage(), "ja");
+    EXPECT_FALSE(f.posted.contains("LanguageDidChangeNotification"));
+}
+
+TEST(PreferenceWindow, ClosingTheWindowWhileAFieldRecordsStoresTheShortcut)
+{
+    PreferenceFixture f;
+    f.window->findChild<QTabWidget*>()->setCurrentIndex(2);
+    auto* field = f.control<ShortcutTextField>("playfirst");
+    QTest::mouseClick(field, Qt::LeftButton);
+    ASSERT_TRUE(field->isRecording());
+    QTest::keyClick(field, Qt::Key_P, Qt::ShiftModifier);
+    // Nothing is stored while recording goes on.
+    EXPECT_EQ(ObjectStorage(f.defaults.store()).keyboardShortcutForKey(PlayFirstShortcut),
+              KeyboardShortcut(44, 0x40000));
+    f.window->close();
+    EXPECT_FALSE(field->isRecording());
+    EXPECT_EQ(ObjectStorage(f.defaults.store()).keyboardShortcutForKey(PlayFirstShortcut),
+              KeyboardShortcut(35, 0x20000));
+}
