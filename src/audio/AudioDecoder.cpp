@@ -11,6 +11,7 @@ extern "C" {
 }
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <mutex>
 
@@ -117,6 +118,7 @@ struct AudioDecoder::Impl
     bool conform = true;
     int conformFormat = -1;                    // AVSampleFormat; -1: the first frame's
     std::unique_ptr<FrameConverter> converter; // made at the first frame
+    std::atomic<bool> interrupted{false};
 };
 
 namespace {
@@ -146,7 +148,16 @@ bool AudioDecoder::open(const QString& path)
     d = std::make_unique<Impl>();
     d->conform = conform;
     d->conformFormat = conformFormat;
-    AVFormatContext* raw = nullptr;
+    AVFormatContext* raw = avformat_alloc_context();
+    if (!raw) {
+        d->error = QStringLiteral("out of memory");
+        return false;
+    }
+    // Checked between reads, so that interrupt() can end a long read at once.
+    raw->interrupt_callback.callback = [](void* impl) {
+        return static_cast<Impl*>(impl)->interrupted.load(std::memory_order_relaxed) ? 1 : 0;
+    };
+    raw->interrupt_callback.opaque = d.get();
     const QByteArray encoded = path.toUtf8();
     int rc = avformat_open_input(&raw, encoded.constData(), nullptr, nullptr);
     if (rc < 0) {
@@ -262,6 +273,11 @@ const DecodedBuffer& AudioDecoder::buffer() const
 void AudioDecoder::setConformFrames(bool conform)
 {
     d->conform = conform;
+}
+
+void AudioDecoder::interrupt()
+{
+    d->interrupted.store(true, std::memory_order_relaxed);
 }
 
 int AudioDecoder::codecSampleFormat() const

@@ -83,6 +83,11 @@ public:
     // gives them.
     static double runInSeconds(uint32_t formatID);
 
+    // Makes every read of the file fail from now on, whichever thread is in
+    // it: a seek that scans the file for its time stamps stops at once. For
+    // an owner that is about to destroy the decoder; safe from any thread.
+    void interrupt();
+
     // Number of undecodable packets skipped so far (a damaged stretch of a file
     // is passed over, as players do, rather than failing the whole file).
     int skippedPackets() const;

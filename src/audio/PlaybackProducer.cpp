@@ -48,6 +48,8 @@ PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
 PlaybackProducer::~PlaybackProducer()
 {
     m_quit.store(true);
+    // The thread may be indexing a long file, a scan of all of it.
+    m_decoder.interrupt();
     wake();
     m_thread.join();
 }
