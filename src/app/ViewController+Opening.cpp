@@ -24,6 +24,7 @@
 #include <cerrno>
 #include <cstring>
 #include <sys/stat.h>
+#include <utility>
 
 void ViewController::openFileFromPath(const QString& path)
 {
@@ -46,7 +47,20 @@ void ViewController::processAudioFile()
     ++m_loadsRunning;
     showLoadingIndicator();
     m_progressTimer->start();
+    if (m_loadInFlight) {
+        // One load at a time touches the engine: this one starts once the
+        // running one has handed over its results. A later open replaces it.
+        if (!m_pendingLoad.isEmpty())
+            --m_loadsRunning;
+        m_pendingLoad = path;
+        return;
+    }
+    startLoad(path);
+}
 
+void ViewController::startLoad(const QString& path)
+{
+    m_loadInFlight = true;
     QPointer<ViewController> self(this);
     AudioManager* engine = &m_engine;
     startHandedOver(m_analysisQueue.get(), [self, engine, path] {
@@ -67,6 +81,9 @@ void ViewController::processAudioFile()
 
 void ViewController::finishOpening(bool success, const QString& path)
 {
+    m_loadInFlight = false;
+    if (!m_pendingLoad.isEmpty())
+        startLoad(std::exchange(m_pendingLoad, QString()));
     if (--m_loadsRunning > 0)
         return; // a later opening is on its way and will show its own result
     m_progressTimer->stop();

@@ -138,6 +138,7 @@ private:
     void animateHeight(QWidget* area, QGraphicsOpacityEffect* effect, int height, bool hidden,
                        bool animated);
     void finishOpening(bool success, const QString& path);
+    void startLoad(const QString& path);
     void showAnalysisProgress();
     void typeCheckFinished(const QString& path, bool valid);
     // The engine's segments and peaks into the views, segment 0 current and
@@ -180,6 +181,8 @@ private:
     // touched from here while one runs.
     std::unique_ptr<QThreadPool> m_analysisQueue;
     int m_loadsRunning = 0;
+    bool m_loadInFlight = false; // a worker is analysing into the engine
+    QString m_pendingLoad;       // the open waiting for it, the latest only
     qsizetype m_segmentsShown = 0;
     std::function<void(bool)> m_openingFinished;
 };

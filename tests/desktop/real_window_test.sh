@@ -17,49 +17,8 @@ fi
 kelmora="$1"
 fixture="$2"
 shots="$3"
-here="$(cd "$(dirname "$0")" && pwd)"
-probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
-fail() { echo "FAIL: $*" >&2; exit 1; }
-
-work="$(mktemp -d)"
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-  if [ -f "$work/pulse/runtime/pid" ]; then kill "$(cat "$work/pulse/runtime/pid")" 2>/dev/null || true; fi
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-# A private home: settings, documents and transcripts go there.
-export HOME="$work/home"
-export XDG_CONFIG_HOME="$HOME/.config" XDG_DATA_HOME="$HOME/.local/share"
-export XDG_RUNTIME_DIR="$work/xdg"
-mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
-unset WAYLAND_DISPLAY
-
-# The X server, on the first free display number.
-exec 5> "$work/display"
-Xvfb -displayfd 5 -screen 0 1280x900x24 -nolisten tcp > "$work/xvfb.log" 2>&1 &
-pids+=($!)
-for _ in $(seq 50); do [ -s "$work/display" ] && break; sleep 0.1; done
-[ -s "$work/display" ] || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
-export DISPLAY=":$(head -n1 "$work/display")"
-
-# The sound server with one null sink; a silent stream keeps it awake.
-mkdir -p "$work/pulse/runtime" "$work/pulse/state"
-export PULSE_RUNTIME_PATH="$work/pulse/runtime" PULSE_STATE_PATH="$work/pulse/state"
-socket="$work/pulse/native"
-pulseaudio --daemonize=yes -n --exit-idle-time=-1 --use-pid-file=yes \
-  --load="module-null-sink sink_name=testsink rate=48000 channels=2" \
-  --load="module-native-protocol-unix auth-anonymous=1 socket=$socket" \
-  --load=module-always-sink > "$work/pulse.log" 2>&1 || fail "pulseaudio: $(cat "$work/pulse.log")"
-export PULSE_SERVER="unix:$socket"
-for _ in $(seq 50); do pactl info > /dev/null 2>&1 && break; sleep 0.1; done
-pacat -p --latency-msec=20 < /dev/zero &
-pids+=($!)
-parec --latency-msec=20 -d testsink.monitor --format=s16le --rate=48000 --channels=1 > "$work/capture.raw" &
-pids+=($!)
+source "$(dirname "$0")/desktop_session.sh"
+start_sound
 
 # Kelmora, as a file manager would start it, with its accessibility bridge on.
 export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
@@ -106,9 +65,7 @@ case "$status" in *"$title"*) ;; *) fail "status bar reads '$status'";; esac
 echo "status bar: $status"
 
 # The window as it looks now.
-mkdir -p "$shots"
-xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
-ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/real-window.png"
+screenshot real-window
 
 # Closing asks whether to save; "Don't Save" ends the program. The prompt
 # opens with "Save" as its default button; Tab moves to "Don't Save".

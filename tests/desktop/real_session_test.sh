@@ -1,0 +1,143 @@
+#!/usr/bin/env bash
+# The learner's loop in the real kelmora (Xvfb, a PulseAudio null sink, a
+# private D-Bus session), with real key presses while the focus stays in the
+# dictation row: type a sentence, Down to the next segment, type again, Down
+# through the last row back to row 0, Return to pause and resume, Ctrl+R to
+# leave and re-enter repeat mode. The first move saves the transcript in the
+# background; after closing with "Don't Save" and opening the same lesson
+# again the typed rows come back from it.
+#
+# Usage: real_session_test.sh KELMORA FIXTURE SCREENSHOT_DIR
+set -euo pipefail
+
+if [ -z "${KELMORA_IN_SESSION:-}" ]; then
+  export KELMORA_IN_SESSION=1
+  exec dbus-run-session -- "$0" "$@"
+fi
+
+kelmora="$1"
+fixture="$2"
+shots="$3"
+source "$(dirname "$0")/desktop_session.sh"
+start_sound
+
+export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+title="$(basename "${fixture%.*}")"
+app=""
+
+start_kelmora() {
+  "$kelmora" "$fixture" >> "$work/kelmora.log" 2>&1 &
+  app=$!
+  pids+=($app)
+  probe wait-window "$title" > /dev/null || fail "no window titled $title"
+  window="$(xdotool search --sync --name "^$title\$" | head -n1)"
+  xdotool windowfocus --sync "$window"
+}
+
+# until_equal WHAT EXPECTED COMMAND...: polls COMMAND for up to five seconds.
+until_equal() {
+  local what="$1" expected="$2" got=""
+  shift 2
+  for _ in $(seq 25); do
+    got="$("$@")"
+    [ "$got" = "$expected" ] && { echo "$what: $got"; return 0; }
+    sleep 0.2
+  done
+  fail "$what reads '$got', not '$expected'"
+}
+
+# until_status PATTERN: polls the status bar until it matches.
+until_status() {
+  local got=""
+  for _ in $(seq 25); do
+    got="$(probe status)"
+    case "$got" in *$1*) echo "status bar: $got"; return 0;; esac
+    sleep 0.2
+  done
+  fail "the status bar reads '$got', not '*$1*'"
+}
+
+close_without_saving() {
+  xdotool key --clearmodifiers ctrl+q
+  local prompt
+  prompt="$(timeout 20 xdotool search --sync --name "^Save Dictation\?\$" | head -n1)" ||
+    fail "no close prompt"
+  xdotool windowfocus --sync "$prompt"
+  xdotool key Tab space
+  local status=0
+  for _ in $(seq 50); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
+  wait "$app" || status=$?
+  [ "$status" = 0 ] || fail "kelmora exited with $status"
+}
+
+start_kelmora
+rows="$(probe rows)"
+[ "$rows" -ge 3 ] || fail "the table has $rows rows"
+echo "rows: $rows"
+
+# Typing, then Down: the next row takes the typing.
+xdotool type --delay 30 "first sentence"
+until_equal "row 0" "first sentence" probe cell 0 1
+xdotool key Down
+xdotool type --delay 30 "second"
+until_equal "row 1" "second" probe cell 1 1
+until_equal "row 0 after Down" "first sentence" probe cell 0 1
+
+# Down from the last row wraps to row 0.
+for _ in $(seq $((rows - 1))); do xdotool key Down; done
+xdotool type --delay 30 "X"
+for _ in $(seq 25); do case "$(probe cell 0 1)" in *X*) break;; esac; sleep 0.2; done
+case "$(probe cell 0 1)" in *X*) echo "Down on the last row: typing is in row 0";; *)
+  fail "Down on the last row left row 0 as '$(probe cell 0 1)'";; esac
+xdotool key BackSpace
+
+# Return pauses and resumes; Ctrl+R leaves and re-enters repeat mode.
+until_status "| Play | Repeat"
+xdotool key Return
+until_status "| Pause | Repeat"
+xdotool key Return
+until_status "| Play | Repeat"
+xdotool key ctrl+r
+until_status "| Play | Forward"
+screenshot real-session
+xdotool key ctrl+r
+until_status "| Play | Repeat"
+
+# Closing with "Save" asks for an existing transcript to write over; both it
+# and the store file then hold the rows.
+picked="$HOME/picked.lrc"
+: > "$picked"
+xdotool key --clearmodifiers ctrl+q
+prompt="$(timeout 20 xdotool search --sync --name "^Save Dictation\?\$" | head -n1)" ||
+  fail "no close prompt"
+xdotool windowfocus --sync "$prompt"
+xdotool key Return
+panel=""
+for _ in $(seq 50); do
+  for candidate in $(xdotool search --onlyvisible --name '.' 2>/dev/null || true); do
+    name="$(xdotool getwindowname "$candidate" 2>/dev/null || true)"
+    case "$name" in "$title"|"Save Dictation?"|"") ;; *) panel="$candidate";; esac
+  done
+  [ -n "$panel" ] && break
+  sleep 0.1
+done
+[ -n "$panel" ] || fail "no panel to pick the transcript"
+echo "panel: $(xdotool getwindowname "$panel")"
+xdotool windowfocus --sync "$panel"
+xdotool type --delay 20 "$picked"
+xdotool key Return
+status=0
+for _ in $(seq 50); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
+wait "$app" || status=$?
+[ "$status" = 0 ] || fail "kelmora exited with $status after Save"
+grep -q "first sentence" "$picked" || fail "the picked transcript reads '$(cat "$picked")'"
+store="$(find "$HOME" -path '*/Transcriptions/*' -type f -print -quit 2>/dev/null || true)"
+[ -n "$store" ] && grep -q "first sentence" "$store" || fail "the store file does not hold row 0"
+echo "closed with Save: $(grep -c . "$picked") lines in the picked file and in the store file"
+
+# The same lesson again: the saved rows come back.
+start_kelmora
+until_equal "row 0 after reopening" "first sentence" probe cell 0 1
+screenshot real-session-reopened
+close_without_saving
+echo "reopened and closed"
