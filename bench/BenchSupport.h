@@ -10,6 +10,7 @@ struct ProcessRun
     int exitCode = -1;
     double seconds = 0;       // wall time
     long peakResidentKiB = 0; // of the child alone
+    double cpuSeconds = 0;    // user and system, of the child alone
 };
 
 // Runs a command with stdout and stderr sent to /dev/null.

@@ -11,6 +11,7 @@ extern "C" {
 }
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <mutex>
 
@@ -97,182 +98,7 @@ uint32_t formatIDForCodec(AVCodecID id)
     }
 }
 
-// Sample conversion. `Read` turns one stored sample into a float in -1..1 and
-// into a 16-bit value the way a conventional converter does.
-template <typename T> float toFloat(T v);
-template <> float toFloat(uint8_t v)
-{
-    return (int(v) - 128) * (1.0f / 128.0f);
-}
-template <> float toFloat(int16_t v)
-{
-    return v * (1.0f / 32768.0f);
-}
-template <> float toFloat(int32_t v)
-{
-    return float(v * (1.0 / 2147483648.0));
-}
-template <> float toFloat(int64_t v)
-{
-    return float(double(v) * (1.0 / 9223372036854775808.0));
-}
-template <> float toFloat(float v)
-{
-    return v;
-}
-template <> float toFloat(double v)
-{
-    return float(v);
-}
-
-// Rounds half away from zero after clamping in floating point: plain
-// arithmetic the compiler can vectorise, unlike a call to lrint per sample.
-inline int16_t floatToS16(float v)
-{
-    float scaled = v * 32768.0f;
-    scaled = scaled < -32768.0f ? -32768.0f : scaled;
-    scaled = scaled > 32767.0f ? 32767.0f : scaled;
-    return int16_t(int(scaled + std::copysign(0.5f, scaled)));
-}
-
-template <typename T> int16_t toS16(T v);
-template <> int16_t toS16(uint8_t v)
-{
-    return int16_t((int(v) - 128) * 256);
-}
-template <> int16_t toS16(int16_t v)
-{
-    return v;
-}
-template <> int16_t toS16(int32_t v)
-{
-    return int16_t(v >> 16);
-}
-template <> int16_t toS16(int64_t v)
-{
-    return int16_t(v >> 48);
-}
-template <> int16_t toS16(float v)
-{
-    return floatToS16(v);
-}
-template <> int16_t toS16(double v)
-{
-    return floatToS16(float(v));
-}
-
-template <typename T> void channelAsFloatT(const AVFrame* f, bool planar, int channel, float* out)
-{
-    const int n = f->nb_samples;
-    if (planar) {
-        const T* src = reinterpret_cast<const T*>(f->extended_data[channel]);
-        for (int i = 0; i < n; ++i)
-            out[i] = toFloat<T>(src[i]);
-    } else {
-        const int stride = f->ch_layout.nb_channels;
-        const T* src = reinterpret_cast<const T*>(f->extended_data[0]) + channel;
-        for (int i = 0; i < n; ++i)
-            out[i] = toFloat<T>(src[i * stride]);
-    }
-}
-
-template <typename T> void interleavedS16T(const AVFrame* f, bool planar, int16_t* out)
-{
-    const int n = f->nb_samples;
-    const int channels = f->ch_layout.nb_channels;
-    if (planar && channels == 1) {
-        // Contiguous in and out: the common mono case, kept vectorisable.
-        const T* __restrict src = reinterpret_cast<const T*>(f->extended_data[0]);
-        int16_t* __restrict dst = out;
-        for (int i = 0; i < n; ++i)
-            dst[i] = toS16<T>(src[i]);
-    } else if (planar) {
-        for (int c = 0; c < channels; ++c) {
-            const T* src = reinterpret_cast<const T*>(f->extended_data[c]);
-            for (int i = 0; i < n; ++i)
-                out[i * channels + c] = toS16<T>(src[i]);
-        }
-    } else {
-        const T* src = reinterpret_cast<const T*>(f->extended_data[0]);
-        const int count = n * channels;
-        for (int i = 0; i < count; ++i)
-            out[i] = toS16<T>(src[i]);
-    }
-}
-
-// Calls fn with a typed null pointer for the frame's sample type.
-template <typename Fn> void dispatchSampleType(AVSampleFormat fmt, Fn&& fn)
-{
-    switch (av_get_packed_sample_fmt(fmt)) {
-    case AV_SAMPLE_FMT_U8:
-        return fn(static_cast<uint8_t*>(nullptr));
-    case AV_SAMPLE_FMT_S16:
-        return fn(static_cast<int16_t*>(nullptr));
-    case AV_SAMPLE_FMT_S32:
-        return fn(static_cast<int32_t*>(nullptr));
-    case AV_SAMPLE_FMT_S64:
-        return fn(static_cast<int64_t*>(nullptr));
-    case AV_SAMPLE_FMT_FLT:
-        return fn(static_cast<float*>(nullptr));
-    case AV_SAMPLE_FMT_DBL:
-        return fn(static_cast<double*>(nullptr));
-    default:
-        return;
-    }
-}
-
 } // namespace
-
-// ---- DecodedBuffer ----
-
-int DecodedBuffer::frames() const
-{
-    return m_frame ? m_frame->nb_samples : 0;
-}
-
-int DecodedBuffer::channels() const
-{
-    return m_frame ? m_frame->ch_layout.nb_channels : 0;
-}
-
-double DecodedBuffer::startTime() const
-{
-    if (!m_frame || m_frame->best_effort_timestamp == AV_NOPTS_VALUE)
-        return -1.0;
-    return double(m_frame->best_effort_timestamp) * m_timeBase;
-}
-
-void DecodedBuffer::channelAsFloat(int channel, float* out) const
-{
-    if (channel < 0 || channel >= channels()) {
-        std::fill_n(out, frames(), 0.0f);
-        return;
-    }
-    const auto fmt = AVSampleFormat(m_frame->format);
-    const bool planar = av_sample_fmt_is_planar(fmt);
-    dispatchSampleType(fmt, [&](auto* tag) {
-        using T = std::remove_pointer_t<decltype(tag)>;
-        channelAsFloatT<T>(m_frame, planar, channel, out);
-    });
-}
-
-const float* DecodedBuffer::channelFloatData(int channel) const
-{
-    const auto fmt = AVSampleFormat(m_frame->format);
-    if (fmt == AV_SAMPLE_FMT_FLTP || (fmt == AV_SAMPLE_FMT_FLT && channels() == 1))
-        return reinterpret_cast<const float*>(m_frame->extended_data[channel]);
-    return nullptr;
-}
-
-void DecodedBuffer::interleavedS16(int16_t* out) const
-{
-    const auto fmt = AVSampleFormat(m_frame->format);
-    const bool planar = av_sample_fmt_is_planar(fmt);
-    dispatchSampleType(fmt, [&](auto* tag) {
-        using T = std::remove_pointer_t<decltype(tag)>;
-        interleavedS16T<T>(m_frame, planar, out);
-    });
-}
 
 // ---- AudioDecoder ----
 
@@ -291,6 +117,7 @@ struct AudioDecoder::Impl
     bool flushed = false;   // the decoder has been told so
     int skipped = 0;
     bool conform = true;
+    int conformFormat = -1;                    // AVSampleFormat; -1: the first frame's
     std::unique_ptr<FrameConverter> converter; // made at the first frame
 };
 
@@ -317,10 +144,21 @@ AudioDecoder::~AudioDecoder() = default;
 bool AudioDecoder::open(const QString& path)
 {
     const bool conform = d->conform;
+    const int conformFormat = d->conformFormat;
     d = std::make_unique<Impl>();
     d->conform = conform;
     d->path = path;
-    AVFormatContext* raw = nullptr;
+    d->conformFormat = conformFormat;
+    AVFormatContext* raw = avformat_alloc_context();
+    if (!raw) {
+        d->error = QStringLiteral("out of memory");
+        return false;
+    }
+    // Checked between reads, so that interrupt() can end a long read at once.
+    raw->interrupt_callback.callback = [](void* flag) {
+        return static_cast<const std::atomic<bool>*>(flag)->load(std::memory_order_relaxed) ? 1 : 0;
+    };
+    raw->interrupt_callback.opaque = &m_interrupted;
     const QByteArray encoded = path.toUtf8();
     int rc = avformat_open_input(&raw, encoded.constData(), nullptr, nullptr);
     if (rc < 0) {
@@ -373,8 +211,13 @@ bool AudioDecoder::open(const QString& path)
     info.durationEstimated = raw->duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
     info.bitRate = par->bit_rate > 0 ? par->bit_rate : std::max<int64_t>(raw->bit_rate, 0);
     d->buffer.m_timeBase = av_q2d(stream->time_base);
-    if (stream->start_time != AV_NOPTS_VALUE)
+    d->buffer.m_timeBaseNum = stream->time_base.num;
+    d->buffer.m_timeBaseDen = stream->time_base.den;
+    d->buffer.m_sampleRate = par->sample_rate;
+    if (stream->start_time != AV_NOPTS_VALUE) {
         info.startTime = double(stream->start_time) * av_q2d(stream->time_base);
+        d->buffer.m_streamStart = stream->start_time;
+    }
     return true;
 }
 
@@ -394,6 +237,10 @@ bool AudioDecoder::openCodec()
         return false;
     }
     int rc = avcodec_parameters_to_context(d->codec.get(), par);
+    // With the packets' time base the codec dates the first frame after the
+    // samples it trims (an MP3's encoder delay), so that time stamps count
+    // from the first sample delivered.
+    d->codec->pkt_timebase = d->format->streams[d->streamIndex]->time_base;
     if (rc >= 0)
         rc = avcodec_open2(d->codec.get(), codec, nullptr);
     if (rc < 0) {
@@ -429,6 +276,22 @@ void AudioDecoder::setConformFrames(bool conform)
     d->conform = conform;
 }
 
+void AudioDecoder::interrupt()
+{
+    m_interrupted.store(true, std::memory_order_relaxed);
+}
+
+int AudioDecoder::codecSampleFormat() const
+{
+    return d->codec ? d->codec->sample_fmt : -1;
+}
+
+void AudioDecoder::setConformFormat(int sampleFormat)
+{
+    d->conformFormat = sampleFormat;
+    d->converter.reset();
+}
+
 int AudioDecoder::skippedPackets() const
 {
     return d->skipped;
@@ -452,7 +315,8 @@ AudioDecoder::ReadResult AudioDecoder::readNext()
             if (d->conform) {
                 if (!d->converter)
                     d->converter = std::make_unique<FrameConverter>(
-                        d->info.channels, frame->format, static_cast<int>(d->info.sampleRate));
+                        d->info.channels, d->conformFormat >= 0 ? d->conformFormat : frame->format,
+                        static_cast<int>(d->info.sampleRate));
                 if (!d->converter->matches(frame)) {
                     frame = d->converter->convert(frame);
                     if (!frame) {
@@ -504,8 +368,37 @@ bool AudioDecoder::seek(double seconds)
         return false;
     const AVStream* stream = d->format->streams[d->streamIndex];
     const double timeBase = av_q2d(stream->time_base);
-    const auto ts =
-        static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase));
+    return seekToTimestamp(
+        static_cast<int64_t>(std::floor(std::max(seconds, d->info.startTime) / timeBase)));
+}
+
+bool AudioDecoder::seekToFrame(int64_t frame)
+{
+    if (!d->codec)
+        return false;
+    const AVStream* stream = d->format->streams[d->streamIndex];
+    const int rate = static_cast<int>(d->info.sampleRate);
+    return seekToTimestamp(d->buffer.m_streamStart +
+                           av_rescale_q_rnd(std::max<int64_t>(frame, 0), AVRational{1, rate},
+                                            stream->time_base, AV_ROUND_DOWN));
+}
+
+double AudioDecoder::runInSeconds(uint32_t formatID)
+{
+    // MP3 needs its bit reservoir and overlap (22 kHz VBR needs more than
+    // 0.3 s), AAC its overlap; the others decode each frame alone.
+    switch (formatID) {
+    case FourCC::MP3:
+        return 1.0;
+    case FourCC::AAC:
+        return 0.1;
+    default:
+        return 0.0;
+    }
+}
+
+bool AudioDecoder::seekToTimestamp(int64_t ts)
+{
     const int rc = av_seek_frame(d->format.get(), d->streamIndex, ts, AVSEEK_FLAG_BACKWARD);
     if (rc < 0) {
         d->error = ffmpegError(rc);

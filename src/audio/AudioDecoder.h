@@ -1,10 +1,11 @@
 #pragma once
 
+#include "audio/DecodedBuffer.h"
+
 #include <QString>
+#include <atomic>
 #include <cstdint>
 #include <memory>
-
-struct AVFrame;
 
 // What the decoder knows of the first audio stream of a file once it is open.
 struct AudioStreamInfo
@@ -19,34 +20,6 @@ struct AudioStreamInfo
     bool durationEstimated = false; // guessed from the bit rate, not stated by the file
     int64_t bitRate = 0;            // bits per second, the stream's estimate or the container's
     double startTime = 0; // stream time stamp of the first sample, in seconds (0 when unknown)
-};
-
-// One decoded buffer, as the codec delivered it. Conversions are done on
-// demand so that each consumer pays only for what it reads.
-class DecodedBuffer
-{
-public:
-    int frames() const;
-    int channels() const;
-    // Start of this buffer in seconds of the stream, when the container says.
-    double startTime() const;
-
-    // Writes frames() samples of channel `channel` as float in -1..1 (zeros
-    // for a channel the buffer does not have).
-    void channelAsFloat(int channel, float* out) const;
-    // The decoder's own float samples of one channel when it delivers them
-    // unconverted and contiguous (most lossy codecs do), else null.
-    const float* channelFloatData(int channel) const;
-    // Writes frames() * channels() interleaved signed 16-bit values.
-    void interleavedS16(int16_t* out) const;
-
-    // The frame itself, for a consumer that converts it as a whole.
-    const AVFrame* frame() const { return m_frame; }
-
-private:
-    friend class AudioDecoder;
-    const AVFrame* m_frame = nullptr;
-    double m_timeBase = 0;
 };
 
 // Decodes the first audio stream of a file with FFmpeg. open() probes the
@@ -88,6 +61,13 @@ public:
     // Off: buffers come as the codec made them (for a consumer that converts
     // each frame itself).
     void setConformFrames(bool conform);
+    // The sample format conformed buffers take (an AVSampleFormat), instead
+    // of the first buffer's: a reader that starts mid-stream must convert to
+    // what one reading from the start would have.
+    void setConformFormat(int sampleFormat);
+    // The codec's own sample format (an AVSampleFormat), that of the buffers
+    // it delivers unless a stream changes it; -1 before openCodec().
+    int codecSampleFormat() const;
     const DecodedBuffer& buffer() const;
 
     // Repositions the stream so that the following buffers begin at or before
@@ -97,6 +77,19 @@ public:
     bool seek(double seconds);
     // Back to the first packet of the file, whatever its time stamps say.
     bool rewind();
+    // The same, for a position in sample frames from the start of the stream
+    // (DecodedBuffer::startFrame()), without the rounding of seconds.
+    bool seekToFrame(int64_t frame);
+
+    // How much earlier than a target a codec must start decoding for the
+    // samples at the target to come out exactly as a reading from the start
+    // gives them.
+    static double runInSeconds(uint32_t formatID);
+
+    // Makes every read of the file fail from now on, whichever thread is in
+    // it: a seek that scans the file for its time stamps stops at once. For
+    // an owner that is about to destroy the decoder; safe from any thread.
+    void interrupt();
 
     // Number of undecodable packets skipped so far (a damaged stretch of a file
     // is passed over, as players do, rather than failing the whole file).
@@ -111,6 +104,11 @@ public:
     static void setLibraryLogging(bool enabled);
 
 private:
+    bool seekToTimestamp(int64_t ts);
+
     struct Impl;
     std::unique_ptr<Impl> d;
+    // Outside the state that open() replaces, so that interrupt() from another
+    // thread never meets a reopening (rewind) half done.
+    std::atomic<bool> m_interrupted{false};
 };

@@ -1,16 +1,21 @@
 // Decoding and loudness analysis. The file is decoded once: the same pass
-// measures the loudness of channel 0 and collects the waveform peaks.
+// measures the loudness of channel 0 and collects the waveform peaks. A long
+// file whose codec decodes exactly after a seek is read in parts side by
+// side, one per core, and joined into what one pass would have measured.
 
+#include "audio/AnalysisPass.h"
+#include "audio/AnalysisPlan.h"
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
+#include "audio/ChunkedAnalysis.h"
 #include "audio/FourCC.h"
 #include "audio/Loudness.h"
-#include "audio/WaveformPeaks.h"
 
 #include <QDebug>
 #include <QFileInfo>
+#include <QThread>
 #include <algorithm>
-#include <vector>
+#include <optional>
 
 float AudioManager::calculateRMSForBuffer(const float* buffer, uint32_t frameCount)
 {
@@ -45,6 +50,20 @@ QString AudioManager::getAudioFormat(const AudioStreamInfo& format)
     return getAudioFormatByFormatID(format.formatID);
 }
 
+int AudioManager::analysisThreads() const
+{
+    const int threads = m_analysisThreads.load(std::memory_order_relaxed);
+    return threads > 0 ? threads : std::max(QThread::idealThreadCount(), 1);
+}
+
+void AudioManager::raiseProgress(double done)
+{
+    // The parts report from their own threads; the bar only ever rises.
+    double seen = m_progress.load(std::memory_order_relaxed);
+    while (done > seen && !m_progress.compare_exchange_weak(seen, done, std::memory_order_relaxed))
+        ;
+}
+
 bool AudioManager::analyzeAudioCharacteristics(const QString& path)
 {
     m_progress.store(0.0, std::memory_order_relaxed);
@@ -60,7 +79,8 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
         return fail(
             QStringLiteral("not an audio file Kelmora can read (%1)").arg(decoder.errorString()));
     }
-    const AudioStreamInfo& info = decoder.info();
+    // A copy: the one-pass road may open the file again.
+    const AudioStreamInfo info = decoder.info();
     m_sampleRate = static_cast<float>(info.sampleRate);
 
     if (!decoder.openCodec()) {
@@ -69,41 +89,43 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
                         .arg(info.codecName, decoder.errorString()));
     }
 
-    Loudness::FrameAccumulator loudness(Loudness::frameLength(m_sampleRate));
-    WaveformPeaks peaks;
-    std::vector<float> channel0;
-    std::vector<int16_t> interleaved;
-    qint64 frames = 0;
+    const uint32_t frameLength = Loudness::frameLength(m_sampleRate);
     const double expectedFrames = std::max(info.duration * info.sampleRate, 1.0);
-
-    for (;;) {
-        const AudioDecoder::ReadResult result = decoder.readNext();
-        if (result == AudioDecoder::ReadResult::EndOfStream)
-            break;
-        if (result == AudioDecoder::ReadResult::Error) {
-            qInfo("Error reading audio file: %s", qPrintable(decoder.errorString()));
-            return fail(
-                QStringLiteral("the audio data cannot be read (%1)").arg(decoder.errorString()));
+    std::optional<ChunkedAnalysis::Result> decoded;
+    int parts = 1;
+    const AnalysisPlan plan = AnalysisPlan::make(static_cast<int64_t>(expectedFrames), frameLength,
+                                                 info.sampleRate, analysisThreads());
+    if (plan.parts() > 1 && ChunkedAnalysis::decodesExactlyAfterSeek(info.formatID)) {
+        ChunkedAnalysis chunked(path, decoder, plan, frameLength);
+        chunked.setProgress([this](double done) { raiseProgress(done); });
+        decoded = chunked.run();
+        if (decoded)
+            parts = plan.parts();
+        if (!decoded) {
+            // Read again from the start; the bar goes on from where it stood.
+            qInfo("Reading in one pass: %s", qPrintable(chunked.refusal()));
+            if (!decoder.open(path) || !decoder.openCodec())
+                return fail(QStringLiteral("cannot decode %1 audio (%2)")
+                                .arg(info.codecName, decoder.errorString()));
         }
-        const DecodedBuffer& buffer = decoder.buffer();
-        const auto n = static_cast<std::size_t>(buffer.frames());
-        const float* samples = buffer.channelFloatData(0);
-        if (!samples) {
-            channel0.resize(n);
-            buffer.channelAsFloat(0, channel0.data());
-            samples = channel0.data();
-        }
-        loudness.add(samples, n);
-
-        interleaved.resize(n * static_cast<std::size_t>(buffer.channels()));
-        buffer.interleavedS16(interleaved.data());
-        peaks.addBuffer(interleaved.data(), static_cast<qsizetype>(interleaved.size()),
-                        buffer.channels());
-
-        frames += static_cast<qint64>(n);
-        m_progress.store(std::min(0.99, static_cast<double>(frames) / expectedFrames),
-                         std::memory_order_relaxed);
     }
+    if (!decoded) {
+        const double base = m_progress.load(std::memory_order_relaxed);
+        AnalysisPass pass(0, AnalysisPass::kOpenEnd, frameLength);
+        qint64 frames = 0;
+        pass.setProgress([this, &frames, base, expectedFrames](int64_t added) {
+            frames += added;
+            const double done = std::min(0.99, static_cast<double>(frames) / expectedFrames);
+            m_progress.store(base + (1.0 - base) * done, std::memory_order_relaxed);
+        });
+        if (pass.run(decoder) != AnalysisPass::Outcome::Done) {
+            qInfo("Error reading audio file: %s", qPrintable(pass.errorString()));
+            return fail(
+                QStringLiteral("the audio data cannot be read (%1)").arg(pass.errorString()));
+        }
+        decoded = ChunkedAnalysis::Result{pass.takeRmsValues(), pass.peaks(), pass.frames()};
+    }
+    const qint64 frames = decoded->frames;
 
     if (frames == 0) {
         qInfo("audio samples is 0");
@@ -122,10 +144,8 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
         qInfo("Error reading audio file: %s", qPrintable(reason));
         return fail(reason + QStringLiteral("; it may be truncated or damaged"));
     }
-    loudness.finish();
-
     AudioCharacteristics characteristics;
-    characteristics.rmsValues = loudness.takeRmsValues();
+    characteristics.rmsValues = std::move(decoded->rmsValues);
     const Loudness::Statistics stats = Loudness::statistics(characteristics.rmsValues);
     characteristics.averageRMS = stats.average;
     characteristics.maxRMS = stats.max;
@@ -150,8 +170,9 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     m_channelInfo = info.channels == 2 ? QStringLiteral("Stereo") : QStringLiteral("Mono");
     m_audioFormat = getAudioFormat(info);
     m_totalSamples = frames;
-    m_decodedWaveform =
-        DecodedWaveform{peaks.normalized(), m_sampleRate, peaks.totalFrames(), info.bitRate};
+    m_analysisParts = parts;
+    m_decodedWaveform = DecodedWaveform{decoded->peaks.normalized(), m_sampleRate,
+                                        decoded->peaks.totalFrames(), info.bitRate};
     m_progress.store(1.0, std::memory_order_relaxed);
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -39,10 +40,12 @@ struct AudioCharacteristics
 // tests construct their own.
 //
 // processAudioFile() may run on any thread (the window runs it on a worker
-// and reads analysisProgress() meanwhile); the player is created, the
-// completion called and the waveform handed back on the thread the engine
-// lives on. Properties are not to be read while a load is running. Everything else, playback
-// included, is called on the engine's thread, where its timers run.
+// and reads analysisProgress() meanwhile), and decodes a long file on threads
+// of its own besides, one per core unless setAnalysisThreads() says
+// otherwise; the player is created, the completion called and the waveform
+// handed back on the thread the engine lives on. Properties are not to be
+// read while a load is running. Everything else, playback included, is
+// called on the engine's thread, where its timers run.
 class AudioManager : public QObject
 {
     Q_OBJECT
@@ -72,6 +75,14 @@ public:
 
     // ---- Analysis ----
     bool analyzeAudioCharacteristics(const QString& path);
+    // How many parts of a file are decoded side by side: 0 (the default)
+    // for one per core, 1 for a single pass.
+    void setAnalysisThreads(int threads) { m_analysisThreads.store(std::max(threads, 0)); }
+    int analysisThreads() const;
+    // The parts the last analysis was joined from; 1 when it read the file in
+    // one pass (a short file, a codec that cannot start mid-stream exactly, or
+    // parts that disagreed).
+    int analysisParts() const { return m_analysisParts; }
     static float calculateRMSForBuffer(const float* buffer, uint32_t frameCount);
     static double getAudioDurationFromFile(const QString& path);
     static QString getAudioFormatByFormatID(uint32_t formatID);
@@ -213,6 +224,9 @@ private:
     float m_maxRepeatPlayTimes = 20.0f;
 
     std::atomic<double> m_progress{0.0};
+    std::atomic<int> m_analysisThreads{0};
+    int m_analysisParts = 0;
+    void raiseProgress(double done);
     QString m_lastError;
 
     // Playback.

@@ -39,9 +39,18 @@ Statistics statistics(const QList<float>& rmsValues)
     return s;
 }
 
-FrameAccumulator::FrameAccumulator(uint32_t frameLength)
-    : m_frame(std::max<uint32_t>(frameLength, 1))
+FrameAccumulator::FrameAccumulator(uint32_t frameLength, float* storage, qsizetype capacity)
+    : m_frame(std::max<uint32_t>(frameLength, 1)), m_storage(storage),
+      m_capacity(storage ? capacity : 0)
 {
+}
+
+void FrameAccumulator::put(float value)
+{
+    if (m_written < m_capacity)
+        m_storage[m_written++] = value;
+    else
+        m_rms.append(value);
 }
 
 void FrameAccumulator::add(const float* samples, std::size_t count)
@@ -49,7 +58,7 @@ void FrameAccumulator::add(const float* samples, std::size_t count)
     // Whole frames that start at a frame boundary are measured in place.
     const std::size_t length = m_frame.size();
     while (m_filled == 0 && count >= length) {
-        m_rms.append(rms(samples, static_cast<uint32_t>(length)));
+        put(rms(samples, static_cast<uint32_t>(length)));
         samples += length;
         count -= length;
     }
@@ -60,7 +69,7 @@ void FrameAccumulator::add(const float* samples, std::size_t count)
         samples += take;
         count -= take;
         if (m_filled == m_frame.size()) {
-            m_rms.append(rms(m_frame.data(), static_cast<uint32_t>(m_filled)));
+            put(rms(m_frame.data(), static_cast<uint32_t>(m_filled)));
             m_filled = 0;
         }
     }
@@ -69,7 +78,7 @@ void FrameAccumulator::add(const float* samples, std::size_t count)
 void FrameAccumulator::finish()
 {
     if (m_filled > 0) {
-        m_rms.append(rms(m_frame.data(), static_cast<uint32_t>(m_filled)));
+        put(rms(m_frame.data(), static_cast<uint32_t>(m_filled)));
         m_filled = 0;
     }
 }

@@ -29,18 +29,29 @@ Statistics statistics(const QList<float>& rmsValues);
 // Receives one channel's samples in whatever pieces the decoder delivers and
 // turns every full analysis frame into its RMS; finish() measures the shorter
 // last frame over its own length.
+//
+// Values go to a list of their own, or, given storage sized up front, into
+// it in place; values past its end then go to the list.
 class FrameAccumulator
 {
 public:
-    explicit FrameAccumulator(uint32_t frameLength);
+    explicit FrameAccumulator(uint32_t frameLength, float* storage = nullptr,
+                              qsizetype capacity = 0);
     void add(const float* samples, std::size_t count);
     void finish();
+    // Values written so far, into the storage and the list together.
+    qsizetype count() const { return m_written + m_rms.size(); }
     const QList<float>& rmsValues() const { return m_rms; }
     QList<float> takeRmsValues() { return std::move(m_rms); }
 
 private:
+    void put(float value);
+
     std::vector<float> m_frame;
     std::size_t m_filled = 0;
+    float* m_storage;
+    qsizetype m_capacity;
+    qsizetype m_written = 0;
     QList<float> m_rms;
 };
 

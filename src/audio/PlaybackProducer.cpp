@@ -1,7 +1,6 @@
 #include "audio/PlaybackProducer.h"
 
 #include "audio/AudioDecoder.h"
-#include "audio/FourCC.h"
 #include "audio/FrameConverter.h"
 #include "audio/HandedPosition.h"
 #include "audio/TimeStretcher.h"
@@ -30,28 +29,14 @@ int64_t steadyNs()
         .count();
 }
 
-// How much earlier than a target the decoder must start so that the samples
-// at the target are exact: MP3 needs its bit reservoir and overlap (22 kHz VBR
-// needs more than 0.3 s), AAC its overlap; the others decode each frame alone.
-double runInFor(uint32_t formatID)
-{
-    switch (formatID) {
-    case FourCC::MP3:
-        return 1.0;
-    case FourCC::AAC:
-        return 0.1;
-    default:
-        return 0.0;
-    }
-}
-
 } // namespace
 
 PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
                                    const HandedPosition& handed, Events events)
     : m_decoder(decoder), m_ring(ring), m_handed(handed), m_events(std::move(events)),
       m_sampleRate(decoder.info().sampleRate), m_channels(ring.channels()),
-      m_streamStart(decoder.info().startTime), m_runIn(runInFor(decoder.info().formatID)),
+      m_streamStart(decoder.info().startTime),
+      m_runIn(AudioDecoder::runInSeconds(decoder.info().formatID)),
       m_fillTarget(
           std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.25 * m_sampleRate))),
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
@@ -66,6 +51,8 @@ PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
 PlaybackProducer::~PlaybackProducer()
 {
     m_quit.store(true);
+    // The thread may be indexing a long file, a scan of all of it.
+    m_decoder.interrupt();
     wake();
     m_thread.join();
 }

@@ -19,6 +19,13 @@ void WaveformPeaks::addBuffer(const int16_t* values, qsizetype valueCount, int c
     m_totalFrames += frames;
 }
 
+void WaveformPeaks::append(const WaveformPeaks& next)
+{
+    m_peaks.append(next.m_peaks);
+    m_max = std::max(m_max, next.m_max);
+    m_totalFrames += next.m_totalFrames;
+}
+
 QList<float> WaveformPeaks::normalized() const
 {
     if (!(m_max > 0.0f))

@@ -19,6 +19,9 @@ public:
     float maxPeak() const { return m_max; }
     qint64 totalFrames() const { return m_totalFrames; }
 
+    // Adds the peaks of the stretch that follows this one.
+    void append(const WaveformPeaks& next);
+
     // Peaks divided by the largest one, or unchanged when all are 0.
     QList<float> normalized() const;
 

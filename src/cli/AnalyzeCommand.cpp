@@ -26,6 +26,7 @@ struct LoadOptions
     QString path;
     std::optional<double> minSegmentDuration;
     std::optional<qint64> sensitivity;
+    int threads = 0; // 0: one per core
     bool rms = false;
 };
 
@@ -50,10 +51,16 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
                        "any number, below 1 counts as 1, then truncated to a whole number "
                        "(default: the stored preference)"),
         QStringLiteral("N"));
+    const QCommandLineOption threads(
+        QStringLiteral("threads"),
+        QStringLiteral("decode the file in N parts side by side, joined into exactly what one "
+                       "pass gives; 1 reads it in one pass (default: one part per core)"),
+        QStringLiteral("N"));
     const QCommandLineOption rms(QStringLiteral("rms"),
                                  QStringLiteral("include every 20 ms loudness value"));
     parser.addOption(minSegment);
     parser.addOption(sensitivity);
+    parser.addOption(threads);
     if (withRms)
         parser.addOption(rms);
     if (auto code =
@@ -82,6 +89,15 @@ std::optional<int> parseLoadOptions(const QString& command, const QString& descr
             return Cli::UsageError;
         out.sensitivity = AudioManager::storedSensitivity(*value);
     }
+    if (parser.isSet(threads)) {
+        bool ok = false;
+        const int value = parser.value(threads).toInt(&ok);
+        if (!ok || value < 1) {
+            Cli::printError(QStringLiteral("--threads takes a whole number of 1 or more"));
+            return Cli::UsageError;
+        }
+        out.threads = value;
+    }
     out.rms = withRms && parser.isSet(rms);
     return std::nullopt;
 }
@@ -102,6 +118,7 @@ std::optional<int> load(const LoadOptions& options)
         engine.setMinSegmentDuration(*options.minSegmentDuration);
     if (options.sensitivity)
         engine.setSensitivity(*options.sensitivity);
+    engine.setAnalysisThreads(options.threads);
 
     bool loaded = false;
     engine.processAudioFile(options.path, [&loaded](bool success) { loaded = success; });

@@ -123,6 +123,25 @@ TEST_F(Cli, SameSpeechAgreesAcrossFormatsToOneFrame)
     }
 }
 
+// The parts decoded side by side print what one pass prints, to the digit;
+// only the waveform may gain a short block per border.
+TEST_F(Cli, ThreadsChangeNothingButTheTime)
+{
+    const QString file = fixture("speech.mp3");
+    QJsonObject one = analyze({file, "--rms", "--threads", "1"});
+    QJsonObject four = analyze({file, "--rms", "--threads", "4"});
+    EXPECT_LE(std::abs(four.take("waveformPoints").toInt() - one.take("waveformPoints").toInt()),
+              3);
+    EXPECT_EQ(four, one);
+    EXPECT_EQ(run({"split", file, "--threads", "3"}).out, run({"split", file}).out);
+
+    EXPECT_EQ(run({"analyze", file, "--threads", "0"}).exitCode, 2);
+    EXPECT_EQ(run({"analyze", file, "--threads", "two"}).exitCode, 2);
+    const QByteArray help = run({"analyze", "--help"}).out.simplified();
+    EXPECT_TRUE(help.contains("--threads <N>") && help.contains("one part per core"))
+        << help.constData();
+}
+
 TEST_F(Cli, SplitPrintsOneStampPerSegment)
 {
     const Result r = run({"split", fixture("speech.flac")});
