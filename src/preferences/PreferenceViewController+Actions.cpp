@@ -2,6 +2,7 @@
 // and tells the rest of the application; reset, the font dialog and the
 // restart prompt.
 
+#include "app/Dialogs.h"
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
@@ -183,7 +184,9 @@ void PreferenceViewController::resetKeyboard()
 
 void PreferenceViewController::restartApp()
 {
-    auto* box = new QMessageBox(this);
+    // A sheet on the main window, which is what the restart closes.
+    QWidget* mainWindow = Dialogs::mainWindow();
+    auto* box = new QMessageBox(mainWindow ? mainWindow : this);
     box->setObjectName(QStringLiteral("restartPrompt"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(QMessageBox::Warning);
