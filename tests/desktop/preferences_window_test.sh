@@ -16,32 +16,10 @@ fi
 
 kelmora="$1"
 shots="$2"
-here="$(cd "$(dirname "$0")" && pwd)"
-probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
-fail() { echo "FAIL: $*" >&2; exit 1; }
-
-work="$(mktemp -d)"
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-export HOME="$work/home"
-export XDG_CONFIG_HOME="$HOME/.config" XDG_DATA_HOME="$HOME/.local/share"
-export XDG_RUNTIME_DIR="$work/xdg"
-mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
-unset WAYLAND_DISPLAY PULSE_SERVER
+source "$(dirname "$0")/desktop_session.sh"
+# No sound server: the preferences make no sound. Texts in English to start.
+unset PULSE_SERVER
 export LANG=C.UTF-8 LANGUAGE=
-
-exec 5> "$work/display"
-Xvfb -displayfd 5 -screen 0 1280x900x24 -nolisten tcp > "$work/xvfb.log" 2>&1 &
-pids+=($!)
-for _ in $(seq 50); do [ -s "$work/display" ] && break; sleep 0.1; done
-[ -s "$work/display" ] || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
-export DISPLAY=":$(head -n1 "$work/display")"
 
 export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
 "$kelmora" > "$work/kelmora.log" 2>&1 &
@@ -111,6 +89,5 @@ pids+=($again)
 buttons="$(probe buttons)"
 echo "$buttons" | grep -qx "Открыть" || fail "the restarted window is not in Russian: $buttons"
 echo "restarted as process $again, toolbar in Russian: $(echo "$buttons" | head -n3 | tr '\n' ' ')"
-xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
-ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/real-restarted-ru.png"
+screenshot real-restarted-ru
 kill "$again"
