@@ -33,8 +33,9 @@ public:
     // False when the device cannot be opened; errorString() says why.
     virtual bool start(const OutputFormat& format, AudioRenderSource* source) = 0;
     virtual void stop() = 0;
-    // Seconds of audio handed over but not yet heard. Any thread.
-    virtual double latency() const = 0;
+    // How many of the frames taken from the source since start() (sound and
+    // silence alike) have been heard by now, fractional. Any thread.
+    virtual double framesHeard() const = 0;
     // True when nothing is actually heard (no device).
     virtual bool isSilent() const = 0;
     virtual QString description() const = 0;

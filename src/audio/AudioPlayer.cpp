@@ -72,6 +72,7 @@ bool AudioPlayer::prepareToPlay()
 {
     if (m_prepared)
         return true;
+    m_deviceFrames = 0;
     if (!m_output->start(m_format, this)) {
         qInfo("Audio output unavailable (%s); playback continues silently",
               qPrintable(m_output->errorString()));
@@ -114,11 +115,15 @@ void AudioPlayer::stop()
 
 double AudioPlayer::currentTime() const
 {
-    const FrameTag handed = m_handed.load();
-    if (!m_playing || handed.seek != m_seekNumber)
+    double through = 0.0;
+    const FrameTag handed = m_handed.load(&through);
+    if (!m_playing || handed.seek != m_seekNumber || m_format.sampleRate <= 0)
         return m_floor;
+    // The device hears the frames it took in order: what it has yet to hear
+    // of those up to the last one handed is still ahead of the ear.
+    const double ahead = std::max(through - m_output->framesHeard(), 0.0);
     const double rate = static_cast<double>(m_appliedRate);
-    const double heard = handed.position - m_output->latency() * rate;
+    const double heard = handed.position - ahead / m_format.sampleRate * rate;
     return std::max(heard, m_floor);
 }
 
@@ -205,7 +210,7 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
         copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
                              m_wantedSeek.load(std::memory_order_acquire), &last);
         if (copied > 0)
-            m_handed.store(last);
+            m_handed.store(last, double(m_deviceFrames + copied));
         // A gap inside the sound: the ring ran dry after the first frame and
         // more of the same sound came later. The end of a span or of the file
         // also reads short, but nothing follows it.
@@ -220,5 +225,6 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
     }
     std::fill(out + static_cast<size_t>(copied) * channels,
               out + static_cast<size_t>(frames) * channels, 0.0f);
+    m_deviceFrames += static_cast<uint64_t>(frames);
     return copied;
 }

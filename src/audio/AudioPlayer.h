@@ -115,5 +115,6 @@ private:
     std::atomic<int> m_shortReads{0};
     uint32_t m_handedSeek = 0; // device callback only
     bool m_ranDry = false;     // device callback only
+    uint64_t m_deviceFrames = 0; // device callback only: every frame it took
     std::atomic<float> m_volume{1.0f};
 };

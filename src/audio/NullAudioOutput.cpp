@@ -1,5 +1,6 @@
 #include "audio/NullAudioOutput.h"
 
+#include <algorithm>
 #include <chrono>
 
 NullAudioOutput::NullAudioOutput(Clocking clocking, double latencySeconds)
@@ -17,9 +18,16 @@ QString NullAudioOutput::description() const
     return QStringLiteral("no audio device");
 }
 
+double NullAudioOutput::framesHeard() const
+{
+    const double pulled = double(m_pulled.load(std::memory_order_acquire));
+    return std::max(pulled - m_latency * m_format.sampleRate, 0.0);
+}
+
 bool NullAudioOutput::start(const OutputFormat& format, AudioRenderSource* source)
 {
     stop();
+    m_pulled = 0;
     m_format = format;
     m_source = source;
     m_started = true;
@@ -44,7 +52,9 @@ qsizetype NullAudioOutput::pull(qsizetype frames, std::vector<float>& out)
     out.assign(static_cast<size_t>(frames * m_format.channels), 0.0f);
     if (!m_started || !m_source)
         return 0;
-    return m_source->render(out.data(), frames);
+    const qsizetype sound = m_source->render(out.data(), frames);
+    m_pulled.fetch_add(frames, std::memory_order_release);
+    return sound;
 }
 
 void NullAudioOutput::run()
@@ -62,6 +72,7 @@ void NullAudioOutput::run()
         while (pulled + period <= due && !m_quit.load()) {
             m_source->render(block.data(), period);
             pulled += period;
+            m_pulled.store(pulled, std::memory_order_release);
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }

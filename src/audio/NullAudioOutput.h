@@ -26,7 +26,8 @@ public:
 
     bool start(const OutputFormat& format, AudioRenderSource* source) override;
     void stop() override;
-    double latency() const override { return m_latency; }
+    // What it has pulled, less its latency.
+    double framesHeard() const override;
     bool isSilent() const override { return true; }
     QString description() const override;
     QString errorString() const override { return {}; }
@@ -47,5 +48,6 @@ private:
     AudioRenderSource* m_source = nullptr;
     std::atomic<bool> m_started{false};
     std::atomic<bool> m_quit{false};
+    std::atomic<qint64> m_pulled{0};
     std::thread m_thread;
 };

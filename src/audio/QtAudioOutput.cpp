@@ -6,6 +6,8 @@
 #include <QIODevice>
 #include <QMediaDevices>
 #include <QTimer>
+#include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -14,8 +16,10 @@ namespace {
 class RenderDevice : public QIODevice
 {
 public:
-    RenderDevice(AudioRenderSource* source, int channels, QObject* parent)
-        : QIODevice(parent), m_source(source), m_bytesPerFrame(channels * int(sizeof(float)))
+    RenderDevice(AudioRenderSource* source, int channels, std::atomic<qint64>* taken,
+                 QObject* parent)
+        : QIODevice(parent), m_source(source), m_taken(taken),
+          m_bytesPerFrame(channels * int(sizeof(float)))
     {
     }
     bool isSequential() const override { return true; }
@@ -28,12 +32,14 @@ protected:
         if (frames <= 0)
             return 0;
         m_source->render(reinterpret_cast<float*>(data), frames);
+        m_taken->fetch_add(frames, std::memory_order_release);
         return frames * m_bytesPerFrame;
     }
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:
     AudioRenderSource* m_source;
+    std::atomic<qint64>* m_taken;
     int m_bytesPerFrame;
 };
 
@@ -54,6 +60,12 @@ QString describeError(QAudio::Error error)
     return {};
 }
 
+double steadySeconds()
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
 } // namespace
 
 QtAudioOutput::QtAudioOutput()
@@ -71,6 +83,15 @@ QtAudioOutput::~QtAudioOutput()
         m_host, [host = m_host] { delete host; }, Qt::BlockingQueuedConnection);
     m_thread.quit();
     m_thread.wait();
+}
+
+double QtAudioOutput::framesHeard() const
+{
+    const double origin = m_origin.load(std::memory_order_acquire);
+    if (origin < 0.0)
+        return 0.0;
+    const double heard = (steadySeconds() - origin) * m_sampleRate;
+    return std::clamp(heard, 0.0, double(m_taken.load(std::memory_order_acquire)));
 }
 
 bool QtAudioOutput::deviceAvailable()
@@ -112,7 +133,10 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
         if (m_sink && m_sink->error() != QAudio::NoError)
             qInfo("Audio output error: %s", qPrintable(describeError(m_sink->error())));
     });
-    m_device = new RenderDevice(source, format.channels, m_host);
+    m_taken.store(0, std::memory_order_relaxed);
+    m_origin.store(-1.0, std::memory_order_relaxed);
+    m_sampleRate = format.sampleRate;
+    m_device = new RenderDevice(source, format.channels, &m_taken, m_host);
     m_device->open(QIODevice::ReadOnly);
     m_sink->start(m_device);
     if (m_sink->error() != QAudio::NoError || m_sink->state() == QAudio::StoppedState) {
@@ -123,25 +147,25 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
         return;
     }
     m_description = device.description();
-    m_latency.store(double(m_sink->bufferSize()) / m_bytesPerSecond, std::memory_order_relaxed);
-    // What the device still holds is sampled here rather than in the read
-    // callback, which must stay a plain copy.
-    m_latencyTimer = new QTimer(m_host);
-    m_latencyTimer->setTimerType(Qt::PreciseTimer);
-    QObject::connect(m_latencyTimer, &QTimer::timeout, m_host, [this] {
+    // How far the server has played is asked here, on the sink's thread,
+    // rather than in the read callback, which must stay a plain copy.
+    m_playedTimer = new QTimer(m_host);
+    m_playedTimer->setTimerType(Qt::PreciseTimer);
+    QObject::connect(m_playedTimer, &QTimer::timeout, m_host, [this] {
         if (!m_sink)
             return;
-        const qsizetype queued = std::max<qsizetype>(m_sink->bufferSize() - m_sink->bytesFree(), 0);
-        m_latency.store(double(queued) / m_bytesPerSecond, std::memory_order_relaxed);
+        const double taken = double(m_taken.load(std::memory_order_acquire));
+        const double played = std::min(double(m_sink->processedUSecs()) * m_sampleRate / 1e6, taken);
+        m_origin.store(steadySeconds() - played / m_sampleRate, std::memory_order_release);
     });
-    m_latencyTimer->start(20);
+    m_playedTimer->start(20);
     *ok = true;
 }
 
 void QtAudioOutput::closeOnThread()
 {
-    delete m_latencyTimer;
-    m_latencyTimer = nullptr;
+    delete m_playedTimer;
+    m_playedTimer = nullptr;
     if (m_sink) {
         m_sink->stop();
         delete m_sink;

@@ -28,7 +28,7 @@ public:
 
     bool start(const OutputFormat& format, AudioRenderSource* source) override;
     void stop() override;
-    double latency() const override { return m_latency.load(std::memory_order_relaxed); }
+    double framesHeard() const override;
     bool isSilent() const override { return false; }
     QString description() const override { return m_description; }
     QString errorString() const override { return m_error; }
@@ -41,9 +41,14 @@ private:
     QObject* m_host = nullptr; // lives on m_thread; owns the sink, device and timer
     QAudioSink* m_sink = nullptr;
     QIODevice* m_device = nullptr;
-    QTimer* m_latencyTimer = nullptr;
+    QTimer* m_playedTimer = nullptr;
     int m_bytesPerSecond = 0;
-    std::atomic<double> m_latency{kBufferSeconds};
+    // Frames the sink has taken from the source, and when (steady clock,
+    // seconds) the first of them would have been heard had the sound run
+    // without a break: the server's last word on how far it has played.
+    std::atomic<qint64> m_taken{0};
+    std::atomic<double> m_origin{-1.0};
+    int m_sampleRate = 0;
     QString m_description;
     QString m_error;
 };

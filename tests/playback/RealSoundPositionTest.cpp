@@ -1,0 +1,167 @@
+// The player's current time against what the sink plays: while the player
+// plays into the private null sink, the sink's monitor is recorded in this
+// process, and at moments along the way the server is asked which sample of
+// that recording is being played now. The recording then tells which source
+// position that sample is, and the player's currentTime() read at the same
+// moment must name it.
+
+#include "MonitorClock.h"
+#include "PlayerTestSupport.h"
+#include "RealSoundSupport.h"
+#include "audio/AudioOutput.h"
+#include "audio/AudioPlayer.h"
+#include "support/TestSupport.h"
+
+#include <QElapsedTimer>
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+
+using TestSupport::fixture;
+using namespace RealSoundSupport;
+
+namespace {
+
+constexpr double kPositionTolerance = 0.010;
+
+struct Reading
+{
+    double heardSample = 0; // index into the monitor recording
+    double reported = 0;    // the player's currentTime() at that moment
+};
+
+class RealSoundPosition : public ::testing::TestWithParam<float>
+{
+protected:
+    void SetUp() override
+    {
+        QString whyNot;
+        pulse = sharedServer(&whyNot);
+        if (!pulse) {
+            if (qEnvironmentVariable("CI") == QLatin1String("true"))
+                FAIL() << "CI must run the real-sound test: " << whyNot.toStdString();
+            GTEST_SKIP() << whyNot.toStdString();
+        }
+    }
+
+    // What the player hands out from `from` for `length` source seconds at
+    // this rate: the decode itself, or its own stretched output.
+    std::vector<float> reference(double from, double length, float rate) const
+    {
+        if (rate == 1.0f) {
+            const std::vector<float> decoded = PlayerTest::straightDecode(path);
+            return {decoded.begin() + qsizetype(from * kCaptureRate),
+                    decoded.begin() + qsizetype((from + length) * kCaptureRate)};
+        }
+        PlayerTest::ManualPlayer offline = PlayerTest::openManual(path);
+        offline.player->setEnableRate(true);
+        offline.player->setRate(rate);
+        offline.player->setCurrentTime(from, from + length);
+        offline.player->play();
+        return offline.take(qsizetype(length / double(rate) * kCaptureRate) - 100);
+    }
+
+    PulseServer* pulse = nullptr;
+    const QString path = fixture("speech_48k_floor.wav");
+};
+
+// One listening: how far currentTime() was from what the sink played.
+struct Listening
+{
+    QString error;
+    int readings = 0;
+    double worst = 0, mean = 0;
+    bool disturbed = false;
+};
+
+Listening listen(PulseServer& pulse, const QString& path, float rate,
+                 const std::vector<float>& reference, double from, double wall)
+{
+    Listening result;
+    QString error;
+    auto player = AudioPlayer::create(path, nullptr, &error);
+    if (!player || !player->prepareToPlay() || player->output()->isSilent()) {
+        result.error = QStringLiteral("the player did not find the sink: ") + error;
+        return result;
+    }
+    player->setEnableRate(true);
+    player->setRate(rate);
+    std::unique_ptr<MonitorClock> clock = MonitorClock::start(&result.error);
+    if (!clock)
+        return result;
+    const int underruns = pulse.playbackUnderruns();
+    runEventsFor(400); // the device plays silence for a while: a steady stream
+
+    // A reading counts only when the player was asked just before and just
+    // after the server, within a millisecond: this thread was not held up.
+    std::vector<Reading> readings;
+    player->setCurrentTime(from, from + wall * double(rate));
+    player->play();
+    QElapsedTimer playing, between;
+    playing.start();
+    while (playing.elapsed() < qint64(wall * 1000) + 300) {
+        runEventsFor(37);
+        between.start();
+        const double before = player->currentTime();
+        const double heard = clock->heardNow();
+        const double after = player->currentTime();
+        if (between.nsecsElapsed() < 1000000 && heard >= 0)
+            readings.push_back({heard, 0.5 * (before + after)});
+    }
+    player->pause();
+    runEventsFor(500);
+    const std::vector<float> capture = clock->stop();
+    result.disturbed = player->shortReads() > 0 || pulse.playbackUnderruns() > underruns;
+
+    const Match match = locate(capture, reference);
+    if (match.coefficient < 0.98) {
+        result.error = QStringLiteral("the played audio is not in the recording");
+        return result;
+    }
+    // The sample of the recording where `from` is heard; from there on the
+    // source advances `rate` seconds per second heard.
+    const double lag = double(match.lag);
+    double sum = 0;
+    for (const Reading& r : readings) {
+        const double heardSeconds = (r.heardSample - lag) / kCaptureRate;
+        // Only moments when the span is being heard, clear of its edges.
+        if (heardSeconds < 0.1 || heardSeconds > wall - 0.1)
+            continue;
+        const double off = r.reported - (from + heardSeconds * double(rate));
+        result.worst = std::max(result.worst, std::fabs(off));
+        sum += off;
+        ++result.readings;
+    }
+    result.mean = result.readings ? sum / result.readings : 0.0;
+    return result;
+}
+
+TEST_P(RealSoundPosition, CurrentTimeNamesTheSampleTheSinkPlaysNow)
+{
+    const float rate = GetParam();
+    const double from = 1.0;
+    const double wall = 2.4; // seconds of listening
+    const std::vector<float> ref = reference(from, wall * double(rate), rate);
+    // A listening the machine broke (the sound ran dry) is repeated.
+    Listening heard;
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+        heard = listen(*pulse, path, rate, ref, from, wall);
+        std::printf("rate %.1f, take %d: %d readings, mean %+.1f ms, worst %.1f ms%s %s\n",
+                    double(rate), attempt, heard.readings, heard.mean * 1000, heard.worst * 1000,
+                    heard.disturbed ? ", the sound ran dry" : "", qPrintable(heard.error));
+        if (!heard.disturbed)
+            break;
+    }
+    ASSERT_TRUE(heard.error.isEmpty()) << heard.error.toStdString();
+    ASSERT_GE(heard.readings, 20) << "too few readings while the span was heard";
+    EXPECT_LE(heard.worst, kPositionTolerance);
+}
+
+std::string rateName(const ::testing::TestParamInfo<float>& param)
+{
+    return "Rate" + std::to_string(int(std::lround(param.param * 10)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rates, RealSoundPosition, ::testing::Values(1.0f, 0.5f, 3.0f), rateName);
+
+} // namespace
