@@ -76,10 +76,22 @@ AnalysisPass::Outcome AnalysisPass::run(AudioDecoder& decoder)
             if (stamped != position || (first && position > keepFrom))
                 return Outcome::Inexact;
         }
+        if (!checked() && !first) {
+            const int64_t missing =
+                DecodedBuffer::framesLeftOut(buffer.startFrame(), position, sampleRate);
+            if (missing > 0) {
+                // Silence where the stream lost a packet, so that what
+                // follows keeps its time.
+                const std::vector<float> silence(static_cast<std::size_t>(missing), 0.0f);
+                const std::vector<int16_t> values(
+                    static_cast<std::size_t>(missing * buffer.channels()), 0);
+                feed(silence.data(), values.data(), buffer.channels(), missing, position, keepFrom);
+                position += missing;
+            }
+        }
         first = false;
-        const int64_t from = std::max(position, keepFrom);
         const int64_t to = m_end == kOpenEnd ? position + n : std::min(position + n, m_end);
-        if (to > from) {
+        if (to > std::max(position, keepFrom)) {
             const float* channel0 = buffer.channelFloatData(0);
             if (!channel0) {
                 m_channel0.resize(static_cast<std::size_t>(n));
@@ -88,8 +100,7 @@ AnalysisPass::Outcome AnalysisPass::run(AudioDecoder& decoder)
             }
             m_interleaved.resize(static_cast<std::size_t>(n * buffer.channels()));
             buffer.interleavedS16(m_interleaved.data());
-            measure(channel0, m_interleaved.data(), buffer.channels(), from - position, to - from,
-                    from);
+            feed(channel0, m_interleaved.data(), buffer.channels(), n, position, keepFrom);
         }
         position += n;
         if (m_end != kOpenEnd && position >= m_end)
@@ -98,6 +109,16 @@ AnalysisPass::Outcome AnalysisPass::run(AudioDecoder& decoder)
     m_endedEarly = m_end != kOpenEnd && position < m_end;
     m_loudness.finish();
     return Outcome::Done;
+}
+
+void AnalysisPass::feed(const float* channel0, const int16_t* values, int channels, int64_t n,
+                        int64_t position, int64_t keepFrom)
+{
+    // [position, position + n) in stream frames, kept from keepFrom to m_end.
+    const int64_t from = std::max(position, keepFrom);
+    const int64_t to = m_end == kOpenEnd ? position + n : std::min(position + n, m_end);
+    if (to > from)
+        measure(channel0, values, channels, from - position, to - from, from);
 }
 
 void AnalysisPass::measure(const float* channel0, const int16_t* values, int channels,

@@ -70,6 +70,8 @@ public:
 
 private:
     bool checked() const { return m_window > 0; }
+    void feed(const float* channel0, const int16_t* values, int channels, int64_t n,
+              int64_t position, int64_t keepFrom);
     void measure(const float* channel0, const int16_t* values, int channels, int64_t first,
                  int64_t count, int64_t at);
 

@@ -164,6 +164,16 @@ int64_t DecodedBuffer::startFrame() const
                             AV_ROUND_NEAR_INF);
 }
 
+int64_t DecodedBuffer::framesLeftOut(int64_t stamped, int64_t counted, double sampleRate)
+{
+    if (stamped == kNoFrame)
+        return 0;
+    const int64_t gap = stamped - counted;
+    const auto rounding = static_cast<int64_t>(sampleRate * 0.002);
+    const auto broken = static_cast<int64_t>(sampleRate);
+    return gap > rounding && gap <= broken ? gap : 0;
+}
+
 void DecodedBuffer::channelAsFloat(int channel, float* out) const
 {
     if (channel < 0 || channel >= channels()) {

@@ -18,6 +18,14 @@ public:
     // rounded from the container's time stamp; kNoFrame when it has none.
     static constexpr int64_t kNoFrame = INT64_MIN;
     int64_t startFrame() const;
+    // Frames the stream's time stamps place before a buffer stamped at frame
+    // `stamped` that the codec never delivered, given that `counted` frames
+    // came before it: a packet it could not decode (a tag between parts
+    // joined as they are, damaged data) still took its time. Readers fill it
+    // with silence, so that every later frame stands where a seek finds it.
+    // A few frames either way are codecs' rounding, and more than a second a
+    // broken time stamp: neither counts.
+    static int64_t framesLeftOut(int64_t stamped, int64_t counted, double sampleRate);
 
     // Writes frames() samples of channel `channel` as float in -1..1 (zeros
     // for a channel the buffer does not have).

@@ -124,6 +124,7 @@ void PlaybackProducer::buildIndex()
     const double duration = m_decoder.info().duration;
     if (duration <= 0.0)
         return;
+
     const int64_t resume = m_nextFrame;
     const double from = std::max(double(resume) / m_sampleRate - m_runIn, 0.0);
     m_decoder.seek(m_streamStart + duration);
@@ -313,6 +314,7 @@ bool PlaybackProducer::decodeNext()
         if (frames <= 0)
             continue;
         const double start = buffer.startTime();
+        int64_t missing = 0;
         if (m_needTimestamp) {
             // The first buffer after a seek says where it starts; from there on
             // frames are counted. A first frame dated before the stream start
@@ -330,19 +332,30 @@ bool PlaybackProducer::decodeNext()
             // indexed, and seeks count frames from its start.
             m_timestampsRunBack = true;
             m_indexed = true;
+        } else if (!m_timestampsRunBack && start >= 0.0) {
+            // A packet the codec could not decode still took its time: it is
+            // heard as silence, as the analysis has it, so that what follows
+            // plays where a seek finds it.
+            missing = DecodedBuffer::framesLeftOut(
+                std::llround((start - m_streamStart) * m_sampleRate), m_nextFrame, m_sampleRate);
         }
         const int64_t first = m_nextFrame;
-        m_nextFrame += frames;
+        const qsizetype total = frames + static_cast<qsizetype>(missing);
+        m_nextFrame += total;
         const qsizetype skip =
-            static_cast<qsizetype>(std::clamp<int64_t>(m_dropUntil - first, 0, frames));
-        if (skip == frames)
+            static_cast<qsizetype>(std::clamp<int64_t>(m_dropUntil - first, 0, total));
+        if (skip == total)
             continue;
 
-        const qsizetype kept = frames - skip;
         const auto* samples = reinterpret_cast<const float*>(converted->extended_data[0]);
-        m_pending.assign(samples + skip * m_channels, samples + frames * m_channels);
+        m_pending.clear();
+        if (skip < missing)
+            m_pending.assign(static_cast<size_t>((missing - skip) * m_channels), 0.0f);
+        const qsizetype fromSample = std::max<qsizetype>(skip - static_cast<qsizetype>(missing), 0);
+        m_pending.insert(m_pending.end(), samples + fromSample * m_channels,
+                         samples + frames * m_channels);
         m_pendingStart = first + skip;
-        m_pendingFrames = kept;
+        m_pendingFrames = total - skip;
         m_pendingOffset = 0;
         return true;
     }

@@ -27,6 +27,11 @@ std::vector<float> straightDecode(const QString& path, int* channels, double* sa
     while (decoder.readNext() == AudioDecoder::ReadResult::Buffer) {
         const DecodedBuffer& b = decoder.buffer();
         const size_t n = static_cast<size_t>(b.frames());
+        // A packet the codec could not decode leaves silence of its length.
+        const int64_t counted = int64_t(all.size()) / out;
+        if (!all.empty() && b.startFrame() != DecodedBuffer::kNoFrame &&
+            b.startFrame() > counted + 10)
+            all.resize(size_t(b.startFrame()) * size_t(out), 0.0f);
         const size_t base = all.size();
         all.resize(base + n * static_cast<size_t>(out));
         plane.resize(n);

@@ -11,7 +11,7 @@
 namespace PlayerTest {
 
 // The whole file decoded from the start, interleaved in the player's output
-// channels (at most two).
+// channels (at most two), each buffer where its time stamp places it.
 std::vector<float> straightDecode(const QString& path, int* channels = nullptr,
                                   double* sampleRate = nullptr);
 
