@@ -146,9 +146,9 @@ TEST_F(ChunkedAnalysisTest, AacAndShortFilesAreReadInOnePass)
 }
 
 // MP3 parts joined as they are: at the join the ID3 tag heading the second
-// part costs a frame the decoder never delivers, so time stamps run ahead of
-// the samples. A part placed by its time stamp would land a frame late:
-// the parts notice and the file is read in one pass.
+// part is a packet the decoder never delivers, so the time stamps jump a
+// frame ahead of the samples. A part has no samples of its neighbour's to
+// vouch for such a border: the parts notice and the file is read in one pass.
 TEST_F(ChunkedAnalysisTest, PartsThatCannotBePlacedExactlyAreRefused)
 {
     const Loaded one = load("stereo_then_mono.mp3", 1);
