@@ -24,6 +24,9 @@
 
 namespace {
 constexpr double kEndOfFileTolerance = 0.1;
+// How much sooner than the interval the segment end is first looked at: more
+// than a device takes at once when it starts.
+constexpr double kSegmentEndLead = 0.25;
 constexpr int kFadeSteps = 11;
 } // namespace
 
@@ -109,7 +112,12 @@ void AudioManager::playSegmentAtIndex(qint64 index)
     // The position ticker that play() stored in the slot is replaced, not
     // cancelled: it keeps posting positions.
     m_segmentEndRearms = 0;
-    armSegmentEnd(length);
+    // Armed a little early: a device that has just started takes a whole
+    // buffer at once, so the segment can be handed over before the interval
+    // from the call is up. The timer then waits as long as the device still
+    // needs, or the rest of the interval when it has taken nothing yet.
+    m_segmentEndHeld = std::min(kSegmentEndLead, length);
+    armSegmentEnd(length - m_segmentEndHeld);
 }
 
 void AudioManager::armSegmentEnd(double seconds)
@@ -123,20 +131,22 @@ void AudioManager::armSegmentEnd(double seconds)
 
 void AudioManager::segmentEndTimerFired()
 {
-    // The interval runs from the call, but the segment's sound reaches the
-    // device later (its start-up, what it still held). Wait on until the
-    // device has taken the segment's last frame, so that a replay follows
-    // the end without cutting it short. A few waits at most: the device's
-    // position only lags, it never stops short of an end it was given.
+    // The interval runs from the call, but the device takes the segment's
+    // sound at its own pace: later (its start-up, what it still held), or at
+    // first faster (a buffer filled at once). The end comes when the device
+    // has taken the segment's last frame, so that a replay follows it with
+    // neither a cut nor a gap. A few waits at most: the device's position
+    // only lags, it never stops short of an end it was given.
     constexpr int kMaxRearms = 4;
     constexpr double kCloseEnough = 0.002;
-    if (m_audioPlayer && m_segmentEndRearms < kMaxRearms) {
-        const double wait = m_audioPlayer->secondsUntilHanded(m_segmentEndSource);
-        if (wait > kCloseEnough) {
-            ++m_segmentEndRearms;
-            armSegmentEnd(wait);
-            return;
-        }
+    double wait = m_segmentEndHeld;
+    m_segmentEndHeld = 0.0;
+    if (m_audioPlayer && m_audioPlayer->handedFrame().seek == m_audioPlayer->seekNumber())
+        wait = m_audioPlayer->secondsUntilHanded(m_segmentEndSource);
+    if (wait > kCloseEnough && m_segmentEndRearms < kMaxRearms) {
+        ++m_segmentEndRearms;
+        armSegmentEnd(wait);
+        return;
     }
     cancelPlayTimer();
     if (m_isRepeatMode) {

@@ -242,6 +242,7 @@ private:
     QList<std::shared_ptr<Timer>> m_tickers;        // every position ticker started by play()
     double m_segmentEndSource = 0.0;                // source seconds where the playing segment ends
     int m_segmentEndRearms = 0;
+    double m_segmentEndHeld = 0.0; // of the interval, what the timer has yet to wait
     qint64 m_currentSegmentIndex = 0;
     qint64 m_currentSegmentRepeatedTimes = 0;
     bool m_isRepeatMode = true;

@@ -120,6 +120,39 @@ TEST_F(PlaybackEngine,
     }
 }
 
+// A device that has just started takes a whole buffer at once, then keeps
+// pace: the segment is all handed over before the interval from the call is
+// up, and the end comes then, so that a replay follows the last frame
+// rather than a gap.
+TEST_F(PlaybackEngine, TheSegmentEndsWhenTheDeviceHasTakenItsLastFrame)
+{
+    const int rate = engine->audioPlayer()->format().sampleRate;
+    std::vector<float> block;
+    // Takes `frames` frames of sound, or what is left before the segment's
+    // end, waiting for the decode thread as a device's buffer would.
+    const auto take = [&](qsizetype frames) {
+        QElapsedTimer waited;
+        waited.start();
+        qsizetype got = 0;
+        while (got < frames && waited.elapsed() < 2000) {
+            got += output->pull(frames - got, block);
+            if (engine->audioPlayer()->handedFrame().position >= 8.0 - 2.0 / rate)
+                break;
+            if (got < frames)
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    };
+    engine->playSegmentAtIndex(2); // 4.8 to 8.0
+    take(rate / 5);
+    double elapsed = 0;
+    while (count(endFalse()) == 0 && elapsed < 4.0) {
+        take(rate / 100);
+        clock.advance(0.01);
+        elapsed += 0.01;
+    }
+    EXPECT_NEAR(elapsed, 3.0, 0.015) << "3.2 s of segment, 0.2 s of it taken at once";
+}
+
 TEST_F(PlaybackEngine, RepeatModeHandsBackOnTheMainThreadLaterAndKeepsPlaying)
 {
     engine->playSegmentAtIndex(1);
