@@ -172,8 +172,3 @@ TEST_F(DocumentManagerTest, ListingAndAttributes)
     EXPECT_TRUE(documents.attributesOfFile("absent", &error).isEmpty());
     EXPECT_TRUE(error.localizedDescription.contains("No such file"));
 }
-
-TEST(DocumentManagerShared, OneInstanceInTheUsersDocumentsFolder)
-{
-    EXPECT_EQ(&DocumentManager::shared(), &DocumentManager::shared());
-}
