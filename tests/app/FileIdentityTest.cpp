@@ -21,14 +21,7 @@ protected:
     QTemporaryDir dir;
     QString audio = dir.filePath("lesson.mp3");
 
-    void SetUp() override { write(audio, "some audio bytes"); }
-
-    static void write(const QString& path, const QByteArray& bytes)
-    {
-        QFile f(path);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
-    }
+    void SetUp() override { TestSupport::writeFile(audio, "some audio bytes"); }
 
     static void setModified(const QString& path, const QDateTime& when)
     {
@@ -85,7 +78,7 @@ TEST_F(FileIdentityTest, SameFileSameIdentityAndTouchingChangesIt)
 TEST_F(FileIdentityTest, ContentChangeOfTheSameSizeInTheSameSecondStillDiffersBySize)
 {
     const auto before = FileIdentity::uniqueIdentifierForFileAtPath(audio);
-    write(audio, "some audio bytes plus more");
+    TestSupport::writeFile(audio, "some audio bytes plus more");
     EXPECT_NE(FileIdentity::uniqueIdentifierForFileAtPath(audio), before);
 }
 
@@ -126,9 +119,7 @@ TEST_F(FileIdentityTest, TranscriptLivesUnderTranscriptionsInTheDocumentsFolder)
     EXPECT_EQ(FileIdentity::transcriptionPathForIdentifier(id, documents),
               dir.filePath("Documents/Transcriptions/") + id);
 
-    QFile blocker(dir.filePath("blocker"));
-    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
-    blocker.close();
+    TestSupport::writeFile(dir.filePath("blocker"), {});
     TestSupport::LogCapture log;
     EXPECT_TRUE(
         FileIdentity::transcriptionPathForIdentifier(id, DocumentManager(dir.filePath("blocker/x")))

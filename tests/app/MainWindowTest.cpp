@@ -230,11 +230,7 @@ TEST(ClosePrompt, SaveWritesTheChosenTranscriptThenCloses)
     ASSERT_TRUE(h.open(fixture("speech.wav")));
     h.session().transcriptionTableView()->updateTranscription(QStringLiteral("Good morning"), 0);
     const QString chosen = h.documentsPath() + QStringLiteral("/chosen.lrc");
-    {
-        QFile file(chosen);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("old");
-    }
+    TestSupport::writeFile(chosen, "old");
     // The save asks for an existing transcript in a file panel.
     QTimer panelAnswer;
     panelAnswer.setInterval(10);
@@ -256,9 +252,7 @@ TEST(ClosePrompt, SaveWritesTheChosenTranscriptThenCloses)
     h.window().close();
     ASSERT_TRUE(waitFor([&] { return !h.window().isVisible(); }));
 
-    QFile file(chosen);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    const QStringList lines = QString::fromUtf8(TestSupport::readFile(chosen)).split('\n');
     EXPECT_EQ(lines.size(), h.session().transcriptionTableView()->model()->rowCount());
     EXPECT_EQ(lines.value(0), "[00:00.000]Good morning");
 }

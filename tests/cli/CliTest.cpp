@@ -4,12 +4,10 @@
 #include "support/TestSupport.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -18,27 +16,15 @@ using TestSupport::fixture;
 
 namespace {
 
-struct Result
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
+using Result = TestSupport::CliResult;
 
 class Cli : public ::testing::Test
 {
 protected:
-    Result run(const QStringList& args)
+    // Never the developer's own settings.
+    Result run(const QStringList& args, const QString& workingDirectory = {})
     {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("XDG_CONFIG_HOME", config.path()); // never the developer's own settings
-        p.setProcessEnvironment(env);
-        p.start(TestSupport::cliPath(), args);
-        EXPECT_TRUE(p.waitForFinished(60000)) << qPrintable(args.join(' '));
-        EXPECT_EQ(p.exitStatus(), QProcess::NormalExit)
-            << "crashed: " << qPrintable(args.join(' '));
-        return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
+        return TestSupport::runCli(args, {{"XDG_CONFIG_HOME", config.path()}}, workingDirectory);
     }
 
     QJsonObject analyze(const QStringList& args)
@@ -54,9 +40,8 @@ protected:
     void storeSetting(const QString& line)
     {
         QDir(config.path()).mkpath("Kelmora");
-        QFile f(config.filePath("Kelmora/Kelmora.ini"));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(("[General]\n" + line + "\n").toUtf8());
+        TestSupport::writeFile(config.filePath("Kelmora/Kelmora.ini"),
+                               ("[General]\n" + line + "\n").toUtf8());
     }
 
     QTemporaryDir config;
@@ -253,20 +238,12 @@ TEST_F(Cli, OptionsAreReadAsStoredSettingsAre)
 TEST_F(Cli, IdentityOfARelativePathIsThatOfTheAbsoluteOne)
 {
     const QFileInfo info(fixture("speech.wav"));
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("XDG_CONFIG_HOME", config.path());
-    p.setProcessEnvironment(env);
-    p.setWorkingDirectory(info.absolutePath());
-    p.start(TestSupport::cliPath(), {"identity", info.fileName()});
-    ASSERT_TRUE(p.waitForFinished(60000));
-    ASSERT_EQ(p.exitCode(), 0) << p.readAllStandardError().constData();
-    const QByteArray relative = p.readAllStandardOutput();
-
+    const Result relative = run({"identity", info.fileName()}, info.absolutePath());
+    ASSERT_EQ(relative.exitCode, 0) << relative.err.constData();
     const Result absolute = run({"identity", info.absoluteFilePath()});
     ASSERT_EQ(absolute.exitCode, 0);
-    EXPECT_EQ(relative, absolute.out);
-    EXPECT_EQ(relative.split('\n').first().size(), 64);
+    EXPECT_EQ(relative.out, absolute.out);
+    EXPECT_EQ(relative.out.split('\n').first().size(), 64);
 }
 
 TEST_F(Cli, VerboseShowsTheEngineLog)

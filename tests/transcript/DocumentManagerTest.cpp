@@ -33,9 +33,7 @@ TEST_F(DocumentManagerTest, DocumentsFolderIsMadeOnFirstUse)
 
 TEST_F(DocumentManagerTest, UnusableDocumentsFolderIsLoggedAndReadsAsNull)
 {
-    QFile blocker(home.filePath("file"));
-    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
-    blocker.close();
+    TestSupport::writeFile(home.filePath("file"), {});
     DocumentManager broken(home.filePath("file/Documents"));
     TestSupport::LogCapture log;
     EXPECT_TRUE(broken.documentsDirectory().isNull());
@@ -126,10 +124,7 @@ TEST_F(DocumentManagerTest, MissingArgumentsGiveCode400)
 
 TEST_F(DocumentManagerTest, NamesCannotReachOutsideTheDocumentsFolder)
 {
-    QFile outside(home.filePath("precious"));
-    ASSERT_TRUE(outside.open(QIODevice::WriteOnly));
-    outside.write("keep me");
-    outside.close();
+    TestSupport::writeFile(home.filePath("precious"), "keep me");
 
     DocumentError error;
     for (const QString name : {"../precious", "a/../../precious", ".", "..", "./"}) {

@@ -8,18 +8,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct CliRun
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
+using CliRun = TestSupport::CliResult;
 
 class TranscriptCommandsTest : public ::testing::Test
 {
@@ -30,24 +24,15 @@ protected:
     // folder lies in the temporary folder.
     CliRun cli(const QStringList& args)
     {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("HOME", home.path());
-        env.insert("XDG_CONFIG_HOME", home.filePath(".config"));
-        env.remove("XDG_DOCUMENTS_DIR");
-        p.setProcessEnvironment(env);
-        p.start(TestSupport::cliPath(), args);
-        if (!p.waitForFinished(60000))
-            return {};
-        return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
+        return TestSupport::runCli(args, {{"HOME", home.path()},
+                                          {"XDG_CONFIG_HOME", home.filePath(".config")},
+                                          {"XDG_DOCUMENTS_DIR", QString()}});
     }
 
     QString file(const QString& name, const QByteArray& bytes)
     {
         const QString path = home.filePath(name);
-        QFile f(path);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
+        TestSupport::writeFile(path, bytes);
         return path;
     }
 
