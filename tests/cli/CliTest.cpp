@@ -90,24 +90,6 @@ TEST_F(Cli, AnalyzePrintsEveryKeyInItsOrder)
     EXPECT_GT(withRms.value("rmsCount").toInt(), 700);
 }
 
-TEST_F(Cli, SameSpeechAgreesAcrossFormatsToOneFrame)
-{
-    const QJsonObject wav = analyze({fixture("speech.wav")});
-    EXPECT_EQ(wav.value("audioFormat").toString(), "WAV");
-    const QList<double> reference = starts(wav);
-    ASSERT_EQ(reference.size(), 5);
-    const std::pair<const char*, const char*> cases[] = {
-        {"speech.mp3", "MP3"}, {"speech_aac.m4a", "AAC"}, {"speech_alac.m4a", "M4A"}};
-    for (const auto& [file, format] : cases) {
-        const QJsonObject o = analyze({fixture(file)});
-        EXPECT_EQ(o.value("audioFormat").toString(), format);
-        const QList<double> s = starts(o);
-        ASSERT_EQ(s.size(), reference.size()) << file;
-        for (qsizetype i = 0; i < s.size(); ++i)
-            EXPECT_NEAR(s[i], reference[i], 0.02 + 1e-6) << file << " #" << i;
-    }
-}
-
 // The parts decoded side by side print what one pass prints, to the digit;
 // only the waveform may gain a short block per border.
 TEST_F(Cli, ThreadsChangeNothingButTheTime)
