@@ -35,16 +35,6 @@ struct Fixture
 
 } // namespace
 
-TEST(LanguageManager, CurrentLanguageIsEnglishUntilOneIsChosen)
-{
-    Fixture f;
-    EXPECT_EQ(f.manager.currentLanguage(), "en");
-    // Nothing chosen and nothing installed: the English source texts.
-    EXPECT_EQ(f.lookup(Texts::Cancel), "Cancel");
-    EXPECT_EQ(f.lookup(Texts::SelectSmallerFile),
-              "Please select an audio file smaller than %llu MB");
-}
-
 TEST(LanguageManager, ChangeLanguageStoresBothKeysAndPostsOldAndNew)
 {
     Fixture f;
