@@ -8,23 +8,16 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QThread>
-#include <gtest/gtest.h>
 #include <csignal>
+#include <gtest/gtest.h>
 
 using TestSupport::fixture;
 
 namespace {
-
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QByteArray expectedBytes(const AutoSaveQueue::Snapshot& snapshot)
 {
@@ -41,7 +34,8 @@ TEST(AutoSaveQueue, WritesOneLrcLinePerRowUnderTheAudioFilesIdentity)
     QString identifier;
     ASSERT_TRUE(AutoSaveQueue::save(snapshot, &identifier));
     EXPECT_EQ(identifier, FileIdentity::uniqueIdentifierForFileAtPath(fixture("speech.wav")));
-    EXPECT_EQ(readAll(folder.filePath(identifier)), "[00:00.000]one\n[00:01.000]\n[00:12.339]three");
+    EXPECT_EQ(TestSupport::readFile(folder.filePath(identifier)),
+              "[00:00.000]one\n[00:01.000]\n[00:12.339]three");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{identifier});
 
     // A row past the last segment is stamped at 0, as the table stamps it.
@@ -92,7 +86,7 @@ TEST(AutoSaveQueue, AKillAtAnyMomentLeavesTheOldTranscriptOrTheNewOneWhole)
         QThread::usleep(random.bounded(1, 40000));
         ::kill(static_cast<pid_t>(helper.processId()), SIGKILL);
         helper.waitForFinished();
-        const QByteArray content = readAll(store);
+        const QByteArray content = TestSupport::readFile(store);
         ASSERT_TRUE(content == a || content == b)
             << "round " << round << ": " << content.size() << " bytes";
     }

@@ -61,8 +61,7 @@ TEST(BookmarkStore, ResolvingChecksTheFolder)
     EXPECT_EQ(BookmarkStore::resolveBookmarkData(gone, &stale), dir.filePath("gone"));
     EXPECT_TRUE(stale);
 
-    QFile file(dir.filePath("file"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    TestSupport::writeFile(dir.filePath("file"), {});
     EXPECT_FALSE(BookmarkStore::resolveBookmarkData(dir.filePath("file").toUtf8(), &stale, &error));
     EXPECT_TRUE(error.endsWith("Not a directory"));
     for (const QByteArray& junk : {QByteArray(), QByteArray("relative/path"),

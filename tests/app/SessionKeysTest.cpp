@@ -14,7 +14,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTest>
@@ -164,11 +163,7 @@ TEST_F(SessionKeys, F2CutsTheFileAgainAndReloadsItsStoredTranscript)
     for (qsizetype i = 0; i < segments; ++i)
         lines.append(
             Lrc::formatLine(h.engine().segments()[i].start, QStringLiteral("row %1").arg(i)));
-    {
-        QFile file(store);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(lines.join(u'\n').toUtf8());
-    }
+    TestSupport::writeFile(store, lines.join(u'\n').toUtf8());
     bool finished = false;
     h.session().setOpeningFinishedHandler([&](bool) { finished = true; });
     press(Qt::Key_F2);

@@ -18,18 +18,14 @@
 #include <gtest/gtest.h>
 
 using TestSupport::fixture;
+using TestSupport::readFile;
+using TestSupport::writeFile;
 
 namespace {
 
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QStringList storedLines(const QString& path)
 {
-    return QString::fromUtf8(readAll(path)).split(u'\n');
+    return QString::fromUtf8(readFile(path)).split(u'\n');
 }
 
 // Clicks a row as a learner does; the table reports the selection.
@@ -102,19 +98,15 @@ TEST_F(Session, TypedRowsAreSavedOnMovingOnAndComeBackWithTheirBoundaries)
     // The background job builds from its snapshot the lines the export builds
     // from the live table.
     const QString exported = folder.filePath("export.lrc");
-    const QByteArray autoSaved = readAll(store);
+    const QByteArray autoSaved = readFile(store);
     h.session().exportTranscriptionTo(exported);
-    EXPECT_EQ(readAll(exported), autoSaved);
+    EXPECT_EQ(readFile(exported), autoSaved);
 
     // Boundaries saved with the texts win over a fresh cutting: move one.
     QStringList edited = lines;
     const double movedStart = h.engine().segments()[2].start + 0.25;
     edited[2] = Lrc::formatLine(movedStart, QString());
-    {
-        QFile file(store);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(edited.join(u'\n').toUtf8());
-    }
+    writeFile(store, edited.join(u'\n').toUtf8());
     ASSERT_TRUE(h.open(lesson));
     EXPECT_EQ(table->mutableTranscriptions().value(3), "third sentence");
     EXPECT_EQ(table->mutableTranscriptions().value(4), "fourth sentence");
@@ -136,14 +128,14 @@ TEST_F(Session, AutoSaveWaitsFiveSecondsAfterTheLastOne)
     h.finishAutoSaves();
     TranscriptionTableView* table = h.session().transcriptionTableView();
     const QString store = h.storePath();
-    const QByteArray empty = readAll(store);
+    const QByteArray empty = readFile(store);
     ASSERT_FALSE(empty.isEmpty());
 
     typeIntoRow(table, 0, "first");
     h.advanceAutoSaveClock(4.5);
     clickRow(table, 1);
     h.finishAutoSaves();
-    EXPECT_EQ(readAll(store), empty) << "a save 4.5 s after the last one";
+    EXPECT_EQ(readFile(store), empty) << "a save 4.5 s after the last one";
 
     // Five seconds after the last save started, clicking the row that is
     // already current plays nothing new but saves.
@@ -200,11 +192,7 @@ TEST_F(Session, ImportRefusesATranscriptLongerThanTheAudioAndLeavesTheRows)
     const SegmentList before = h.engine().segments();
 
     const QString tooLong = folder.filePath("long.lrc");
-    {
-        QFile file(tooLong);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("[00:00.000]one\n[01:00.000]two\n[02:30.000]past the end");
-    }
+    writeFile(tooLong, "[00:00.000]one\n[01:00.000]two\n[02:30.000]past the end");
     {
         AlertAnswerer answer("OK");
         h.session().importTranscriptionFrom(tooLong);
@@ -220,11 +208,7 @@ TEST_F(Session, ImportRefusesATranscriptLongerThanTheAudioAndLeavesTheRows)
     // One that ends exactly at the audio's end is taken.
     const double total = h.engine().getTotalDuration();
     const QString exact = folder.filePath("exact.lrc");
-    {
-        QFile file(exact);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(("[00:00.000]a\n" + Lrc::formatLine(total / 2, "b")).toUtf8());
-    }
+    writeFile(exact, ("[00:00.000]a\n" + Lrc::formatLine(total / 2, "b")).toUtf8());
     h.session().importTranscriptionFrom(exact);
     EXPECT_EQ(table->model()->rowCount(), 2);
     EXPECT_EQ(table->mutableTranscriptions().value(1), "b");

@@ -29,13 +29,15 @@ TEST(StatusText, ListsFileFormatSamplesDurationSegmentsAndPlayerState)
               "/home/learner/lessons/lesson 1.mp3 | MP3: 44.1kHz; Stereo;Samples: 635040;"
               "Duration: 00:14 | Segments: 6 | Play | Repeat");
 
-    StatusSnapshot paused = lesson();
-    paused.playing = false;
-    paused.repeatMode = false;
-    EXPECT_TRUE(StatusText::build(paused).endsWith(" | Pause | Forward"));
+    StatusSnapshot s = lesson();
+    s.playing = false;
+    s.repeatMode = false;
+    EXPECT_TRUE(StatusText::build(s).endsWith(" | Pause | Forward"));
+    s.audioPath.clear();
+    EXPECT_EQ(StatusText::build(s), "") << "no file open";
 }
 
-TEST(StatusText, RoundsMinutesDownAndSecondsToTheNearest)
+TEST(StatusText, MinutesRoundDownSecondsToTheNearestAndTheRateHasOneDecimal)
 {
     StatusSnapshot s = lesson();
     s.duration = 59.6; // minutes 0, seconds round to 60 and wrap
@@ -44,22 +46,11 @@ TEST(StatusText, RoundsMinutesDownAndSecondsToTheNearest)
     EXPECT_TRUE(StatusText::build(s).contains(";Duration: 60:00 |"));
     s.duration = 119.4;
     EXPECT_TRUE(StatusText::build(s).contains(";Duration: 01:59 |"));
-}
 
-TEST(StatusText, ShowsTheSampleRateInKilohertzWithOneDecimal)
-{
-    StatusSnapshot s = lesson();
     s.sampleRate = 22050.0;
     EXPECT_TRUE(StatusText::build(s).contains(" | MP3: 22.1kHz; Stereo;"));
     s.sampleRate = 8000.0;
     EXPECT_TRUE(StatusText::build(s).contains(" | MP3: 8.0kHz; Stereo;"));
-}
-
-TEST(StatusText, IsEmptyWithNoFileOpen)
-{
-    StatusSnapshot s = lesson();
-    s.audioPath.clear();
-    EXPECT_EQ(StatusText::build(s), "");
 }
 
 TEST(StatusText, FormatTimeTruncatesEveryField)

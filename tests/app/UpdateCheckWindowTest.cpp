@@ -131,31 +131,17 @@ TEST_F(UpdateCheckWindowTest, TheLatestVersionIsSaidInAnInformationalSheet)
     press(sheet, "OK");
 }
 
-TEST_F(UpdateCheckWindowTest, FailuresEndInTheWarningSheetAndTheWindowCarriesOn)
+// Which failure gives which title is the checker's test; every one ends in
+// the same warning sheet.
+TEST_F(UpdateCheckWindowTest, AFailureEndsInTheWarningSheetAndTheWindowCarriesOn)
 {
-    struct Case
-    {
-        int status;
-        QByteArray body;
-        const char* title;
-    };
-    const QList<Case> cases = {
-        {200, "{\"results\": [ oops", "Error parsing updates JSON"},
-        {500, "<html>Internal Server Error</html>", "Error checking for updates"},
-        {-1, {}, "Error checking for updates"}, // nothing listens any more
-    };
-    for (const Case& c : cases) {
-        if (c.status < 0)
-            server.close();
-        else
-            server.answer(c.status, c.body);
-        QMessageBox* sheet = checkFromTheMenu();
-        ASSERT_NE(sheet, nullptr) << c.title;
-        EXPECT_EQ(sheet->text(), c.title);
-        EXPECT_FALSE(sheet->informativeText().isEmpty());
-        EXPECT_EQ(sheet->icon(), QMessageBox::Warning);
-        EXPECT_EQ(buttonTexts(sheet), QStringList({"OK"}));
-        press(sheet, "OK");
-    }
+    server.answer(200, "{\"results\": [ oops");
+    QMessageBox* sheet = checkFromTheMenu();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->text(), "Error parsing updates JSON");
+    EXPECT_FALSE(sheet->informativeText().isEmpty());
+    EXPECT_EQ(sheet->icon(), QMessageBox::Warning);
+    EXPECT_EQ(buttonTexts(sheet), QStringList({"OK"}));
+    press(sheet, "OK");
     EXPECT_TRUE(h.window().isVisible());
 }

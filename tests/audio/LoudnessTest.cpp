@@ -1,28 +1,10 @@
 #include "audio/Loudness.h"
 
-#include "audio/AudioManager.h"
 #include "audio/WaveformPeaks.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
-
-TEST(Loudness, RmsOfABufferAndOfNothing)
-{
-    const float samples[] = {3.0f, -4.0f};
-    EXPECT_FLOAT_EQ(AudioManager::calculateRMSForBuffer(samples, 2), std::sqrt(12.5f));
-    EXPECT_FLOAT_EQ(AudioManager::calculateRMSForBuffer(samples, 1), 3.0f);
-    EXPECT_TRUE(std::isnan(AudioManager::calculateRMSForBuffer(samples, 0)));
-}
-
-TEST(Loudness, AnalysisFrameIsTwentyMillisecondsTruncated)
-{
-    EXPECT_EQ(Loudness::frameLength(44100.0f), 882u);
-    EXPECT_EQ(Loudness::frameLength(48000.0f), 960u);
-    EXPECT_EQ(Loudness::frameLength(22050.0f), 441u);
-    EXPECT_EQ(Loudness::frameLength(11025.0f), 220u); // 220.5
-    EXPECT_EQ(Loudness::frameLength(8000.0f), 160u);
-}
 
 TEST(Loudness, FramesDoNotDependOnHowTheDecoderSlicesTheAudio)
 {

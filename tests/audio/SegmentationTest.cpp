@@ -30,17 +30,12 @@ constexpr int kHigh = 2;   // one
 
 } // namespace
 
-TEST(AdaptiveThreshold, MeanMinusSpreadScaledBySensitivity)
+TEST(AdaptiveThreshold, MeanMinusSpreadByLevelKeptBetweenOneAndFiftyPercentOfTheLoudest)
 {
     EXPECT_FLOAT_EQ(adaptiveThreshold(0.4f, 0.2f, 1.0f, kLow), 0.4f - 0.2f * 0.7f);
-    EXPECT_FLOAT_EQ(adaptiveThreshold(0.4f, 0.2f, 1.0f, kMedium), 0.3f);
     EXPECT_FLOAT_EQ(adaptiveThreshold(0.4f, 0.2f, 1.0f, kHigh), 0.4f - 0.2f * 0.3f);
     // Any level outside 0..2 behaves as medium.
     EXPECT_FLOAT_EQ(adaptiveThreshold(0.4f, 0.2f, 1.0f, 7), 0.3f);
-}
-
-TEST(AdaptiveThreshold, KeptBetweenOneAndFiftyPercentOfTheLoudestFrame)
-{
     EXPECT_FLOAT_EQ(adaptiveThreshold(0.01f, 0.1f, 0.8f, kMedium), 0.008f); // floor
     EXPECT_FLOAT_EQ(adaptiveThreshold(0.9f, 0.0f, 1.0f, kMedium), 0.5f);    // ceiling
     // A silent file: nothing can be quieter than 0, so no frame is ever silent.
@@ -133,15 +128,12 @@ TEST(Cutting, SkippedMidpointsMakeLongerSegments)
     EXPECT_FLOAT_EQ(float(segments[1].duration), 2.5f);
 }
 
-TEST(Cutting, MidpointAtOrPastTheEndNeverCuts)
+TEST(Cutting, WithoutACutBeforeTheEndTheWholeListIsOneSegment)
 {
     const QList<Silence> atEnd{{2.8f, 0.4f, 3.0f}};
     EXPECT_TRUE(cutAtMidpoints(atEnd, 150, 1.0, 3.0).isEmpty());
     EXPECT_EQ(cutAtMidpoints(atEnd, 150, 1.0, 3.0001).size(), 1);
-}
 
-TEST(Cutting, WithoutSilencesTheWholeListIsOneSegment)
-{
     const SegmentList segments = cutAtMidpoints({}, 250, 1.0, 5.0);
     ASSERT_EQ(segments.size(), 1);
     EXPECT_EQ(segments[0].start, 0.0);
@@ -186,11 +178,4 @@ TEST(Segmentation, WholePipelineOnAHandMadeRecording)
     EXPECT_NEAR(segments[0].duration, 2.3, 1e-5);
     EXPECT_NEAR(segments[1].start, 2.3, 1e-5);
     EXPECT_NEAR(segments[1].end(), duration - 1.0, 1e-9);
-}
-
-TEST(SensitivityName, NamesTheThreeLevels)
-{
-    EXPECT_STREQ(sensitivityName(0), "Low");
-    EXPECT_STREQ(sensitivityName(1), "Medium");
-    EXPECT_STREQ(sensitivityName(2), "High");
 }

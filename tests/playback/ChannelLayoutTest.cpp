@@ -8,7 +8,6 @@
 #include "common/NotificationCenter.h"
 #include "support/TestSupport.h"
 
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <chrono>
@@ -181,9 +180,7 @@ TEST(Downmix, TheCentreOfA51FileIsHeardOnBothSidesAtMinusThreeDecibels)
 TEST(ImpossibleHeader, IsRefusedWithAOneLineReason)
 {
     QTemporaryDir dir;
-    QFile source(fixture("speech.wav"));
-    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
-    const QByteArray wav = source.readAll();
+    const QByteArray wav = TestSupport::readFile(fixture("speech.wav"));
     struct Patch
     {
         const char* name;
@@ -198,10 +195,7 @@ TEST(ImpossibleHeader, IsRefusedWithAOneLineReason)
         QByteArray bytes = wav;
         bytes.replace(patch.offset, patch.bytes.size(), patch.bytes);
         const QString path = dir.filePath(patch.name);
-        QFile out(path);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(bytes);
-        out.close();
+        TestSupport::writeFile(path, bytes);
 
         TestSupport::TempDefaults defaults;
         NotificationCenter center;

@@ -3,27 +3,16 @@
 
 #include "support/TestSupport.h"
 
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct CliRun
-{
-    int exitCode = -1;
-    QString out, err;
-};
+using CliRun = TestSupport::CliResult;
 
 CliRun play(const QStringList& args)
 {
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("PULSE_SERVER", "unix:/nonexistent/kelmora-test");
-    p.setProcessEnvironment(env);
-    p.start(TestSupport::cliPath(), QStringList{"play"} + args);
-    p.waitForFinished(30000);
-    return {p.exitCode(), QString::fromLocal8Bit(p.readAllStandardOutput()),
-            QString::fromLocal8Bit(p.readAllStandardError())};
+    return TestSupport::runCli(QStringList{"play"} + args,
+                               {{"PULSE_SERVER", "unix:/nonexistent/kelmora-test"}});
 }
 
 } // namespace

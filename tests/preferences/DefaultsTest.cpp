@@ -2,7 +2,6 @@
 
 #include "support/TestSupport.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 using TestSupport::TempDefaults;
@@ -55,9 +54,7 @@ TEST(Defaults, UserValuesSurviveARestartButRegistrationsDoNot)
     EXPECT_TRUE(d.boolForKey("on"));
     EXPECT_EQ(d.dataForKey("blob"), QByteArray("\x00\x01\xff", 3));
     EXPECT_FALSE(d.objectForKey("registered").isValid());
-    QFile file(t.path());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray onDisk = file.readAll();
+    const QByteArray onDisk = TestSupport::readFile(t.path());
     EXPECT_TRUE(onDisk.contains("rate"));
     EXPECT_FALSE(onDisk.contains("registered"));
 }
@@ -65,12 +62,9 @@ TEST(Defaults, UserValuesSurviveARestartButRegistrationsDoNot)
 TEST(Defaults, ValuesOfTheWrongTypeReadAsZeroWithoutFailing)
 {
     TempDefaults t;
-    {
-        QFile f(t.path());
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("[General]\nkPlaySpeed=fast\nkMaxRepeatPlayTimes=@ByteArray(xyz)\n"
-                "kShowStatusBar=maybe\nnumberText=\" 2.5 \"\n");
-    }
+    TestSupport::writeFile(t.path(),
+                           "[General]\nkPlaySpeed=fast\nkMaxRepeatPlayTimes=@ByteArray(xyz)\n"
+                           "kShowStatusBar=maybe\nnumberText=\" 2.5 \"\n");
     t.reopen();
     Defaults& d = t.store();
     EXPECT_EQ(d.doubleForKey("kPlaySpeed"), 0.0);

@@ -16,6 +16,7 @@
 #include "transcript/TranscriptionManager.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -175,6 +176,11 @@ TEST(LanguageSwitching, BothWindowsInFourLanguagesShowEveryTextWhole)
         WindowHarness h{QString::fromLatin1(language)};
         ASSERT_TRUE(h.open(fixture("speech.mp3")));
         h.screenshot(QStringLiteral("main-window-") + language);
+        // The main window speaks the language: its toolbar and status bar.
+        auto* open = h.window().findChild<QAction*>(QStringLiteral("open"));
+        ASSERT_NE(open, nullptr);
+        EXPECT_EQ(open->text(), LocalizedString(Texts::ToolbarOpen));
+        EXPECT_TRUE(h.session().statusText().contains(LocalizedString(Texts::Segments)));
 
         LanguageBundle bundle(h.defaults());
         LanguageManager manager(h.defaults(), h.center(), bundle);
@@ -184,6 +190,7 @@ TEST(LanguageSwitching, BothWindowsInFourLanguagesShowEveryTextWhole)
         EXPECT_EQ(window.windowTitle(), LocalizedString(Texts::Preferences));
         if (QLatin1String(language) != QLatin1String("en")) {
             EXPECT_NE(window.windowTitle(), "Preferences");
+            EXPECT_NE(open->text(), "Open");
         }
         auto* tabWidget = window.findChild<QTabWidget*>();
         // All three tabs fit side by side: no scroll arrows.

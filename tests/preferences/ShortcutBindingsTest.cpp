@@ -25,23 +25,6 @@ std::optional<ShortcutAction> pressOn(const ObjectStorage& storage, int key,
 
 } // namespace
 
-TEST(ShortcutBindings, TableOrderKeysAndFieldIdentifiers)
-{
-    const auto& b = shortcutBindings();
-    const char* keys[] = {"kPreviousSegmentShortcut", "kNextSegmentShortcut",
-                          "kPlayPauseShortcut",       "kRepeatPlayShortcut",
-                          "kPlayFirstShortcut",       "kSplitAudioShortcut"};
-    const char* fields[] = {"previous",   "next",      "playpause",
-                            "repeatplay", "playfirst", "splitaudio"};
-    const A actions[] = {A::PreviousSegment, A::NextSegment, A::PlayPause,
-                         A::RepeatPlay,      A::PlayFirst,   A::SplitAudio};
-    for (std::size_t i = 0; i < b.size(); ++i) {
-        EXPECT_STREQ(b[i].defaultsKey, keys[i]);
-        EXPECT_STREQ(b[i].fieldIdentifier, fields[i]);
-        EXPECT_EQ(b[i].action, actions[i]);
-    }
-}
-
 TEST(ShortcutBindings, DefaultKeysRunTheirCommandsFromRealKeyEvents)
 {
     TempDefaults t;

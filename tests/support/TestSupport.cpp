@@ -3,8 +3,11 @@
 #include "preferences/Defaults.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QProcess>
+#include <gtest/gtest.h>
 
 namespace TestSupport {
 
@@ -16,6 +19,47 @@ QString fixture(const QString& name)
 QString cliPath()
 {
     return QStringLiteral(KELMORA_CLI_PATH);
+}
+
+CliResult runCli(const QStringList& args, const QMap<QString, QString>& environment,
+                 const QString& workingDirectory)
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (auto it = environment.cbegin(); it != environment.cend(); ++it) {
+        if (it.value().isNull())
+            env.remove(it.key());
+        else
+            env.insert(it.key(), it.value());
+    }
+    QProcess p;
+    p.setProcessEnvironment(env);
+    p.setWorkingDirectory(workingDirectory);
+    p.start(cliPath(), args);
+    if (!p.waitForFinished(60000)) {
+        ADD_FAILURE() << "kelmora-cli did not finish: " << args.join(' ').toStdString();
+        p.kill();
+        p.waitForFinished();
+        return {};
+    }
+    EXPECT_EQ(p.exitStatus(), QProcess::NormalExit) << "crashed: " << args.join(' ').toStdString();
+    return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        ADD_FAILURE() << "cannot read " << path.toStdString();
+        return {};
+    }
+    return file.readAll();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        ADD_FAILURE() << "cannot write " << path.toStdString();
 }
 
 namespace {

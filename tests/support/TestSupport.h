@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -14,6 +16,23 @@ QString fixture(const QString& name);
 
 // Path of the kelmora-cli binary built with the tests.
 QString cliPath();
+
+struct CliResult
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+// Runs kelmora-cli to its end with these changes to the environment (a null
+// value removes the variable) and in this folder; a crash or a hang fails the test.
+CliResult runCli(const QStringList& args, const QMap<QString, QString>& environment = {},
+                 const QString& workingDirectory = {});
+
+// A whole file's bytes; a file that cannot be read fails the test.
+QByteArray readFile(const QString& path);
+// Writes the bytes as the whole file; a failure fails the test.
+void writeFile(const QString& path, const QByteArray& bytes);
 
 // Collects the application's log lines while it lives.
 class LogCapture

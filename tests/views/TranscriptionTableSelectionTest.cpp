@@ -129,13 +129,4 @@ TEST_F(TranscriptionTableSelection, AClickAnywhereInARowPutsTheCaretInItsEditor)
     EXPECT_EQ(QApplication::focusWidget(), table->editorForRow(1));
 }
 
-TEST_F(TranscriptionTableSelection, TheTypingFocusMovesWithTheCurrentRow)
-{
-    makeTable();
-    load({"a", "b", "c"});
-    ASSERT_TRUE(table->editorForRow(0)->hasFocus());
-    table->setCurrentSegment(2);
-    EXPECT_EQ(QApplication::focusWidget(), table->editorForRow(2));
-}
-
 } // namespace

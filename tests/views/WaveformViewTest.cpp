@@ -13,7 +13,6 @@
 #include "support/TestSupport.h"
 #include "views/NamedColors.h"
 
-#include <QDir>
 #include <QImage>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -419,24 +418,4 @@ TEST_F(WaveformViewTest, ShadingAdvancesOneSegmentPerDrawingOutsideRepeatMode)
     postPosition(94.9);
     shot();
     EXPECT_EQ(view->currentSegmentIndex(), last);
-}
-
-TEST_F(WaveformViewTest, Screenshots)
-{
-    load("lesson_95s.wav");
-    showStrip(900);
-    view->setCurrentSegment(2);
-    const Segment& current = view->segments().at(2);
-    postPosition(current.start + current.duration * 0.5);
-    TestSupport::processEvents();
-    QDir().mkpath(KELMORA_SCREENSHOT_DIR);
-    const QImage strip = area->grab().toImage();
-    ASSERT_TRUE(strip.save(QDir(KELMORA_SCREENSHOT_DIR).filePath("waveform-strip.png")));
-
-    // Around the start of segment 3, four times as large, pixels kept sharp.
-    const int x = qRound(view->pixelsPerSecond() * view->segments().at(3).start);
-    const QImage zoom = shot()
-                            .copy(QRect(x - 40, 0, 80, H()))
-                            .scaled(320, 4 * H(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
-    ASSERT_TRUE(zoom.save(QDir(KELMORA_SCREENSHOT_DIR).filePath("waveform-boundary-zoom.png")));
 }
