@@ -17,20 +17,9 @@ using namespace RealSoundSupport;
 
 namespace {
 
-class RealSoundFiles : public ::testing::Test
+class RealSoundFiles : public WithServer<>
 {
 protected:
-    void SetUp() override
-    {
-        QString whyNot;
-        pulse = sharedServer(&whyNot);
-        if (!pulse) {
-            if (qEnvironmentVariable("CI") == QLatin1String("true"))
-                FAIL() << "CI must run the real-sound test: " << whyNot.toStdString();
-            GTEST_SKIP() << whyNot.toStdString();
-        }
-    }
-
     std::unique_ptr<AudioPlayer> open(const QString& path)
     {
         QString error;
@@ -42,8 +31,6 @@ protected:
         EXPECT_FALSE(player->output()->isSilent()) << "the player did not find the sink";
         return player;
     }
-
-    PulseServer* pulse = nullptr;
 };
 
 // What the mono recording of a stereo decode is: the mean of the two sides.

@@ -30,20 +30,9 @@ struct Reading
     double reported = 0;    // the player's currentTime() at that moment
 };
 
-class RealSoundPosition : public ::testing::TestWithParam<float>
+class RealSoundPosition : public WithServer<::testing::TestWithParam<float>>
 {
 protected:
-    void SetUp() override
-    {
-        QString whyNot;
-        pulse = sharedServer(&whyNot);
-        if (!pulse) {
-            if (qEnvironmentVariable("CI") == QLatin1String("true"))
-                FAIL() << "CI must run the real-sound test: " << whyNot.toStdString();
-            GTEST_SKIP() << whyNot.toStdString();
-        }
-    }
-
     // What the player hands out from `from` for `length` source seconds at
     // this rate: the decode itself, or its own stretched output.
     std::vector<float> reference(double from, double length, float rate) const
@@ -61,7 +50,6 @@ protected:
         return offline.take(qsizetype(length / double(rate) * kCaptureRate) - 100);
     }
 
-    PulseServer* pulse = nullptr;
     const QString path = fixture("speech_48k_floor.wav");
 };
 

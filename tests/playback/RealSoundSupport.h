@@ -9,6 +9,7 @@
 #include <QString>
 #include <QtGlobal>
 #include <functional>
+#include <gtest/gtest.h>
 #include <vector>
 
 class AudioPlayer;
@@ -29,6 +30,28 @@ struct Match
 {
     qsizetype lag = -1;
     double coefficient = 0.0; // normalised correlation over the whole reference
+};
+
+// A fixture on the shared server: the test is skipped where none can run,
+// except on CI, where that is a failure.
+template <class Base = ::testing::Test>
+class WithServer : public Base
+{
+protected:
+    void SetUp() override
+    {
+        QString whyNot;
+        pulse = sharedServer(&whyNot);
+        if (!pulse) {
+            if (qEnvironmentVariable("CI") == QLatin1String("true"))
+                FAIL() << "CI must run the real-sound test: " << whyNot.toStdString();
+            GTEST_SKIP() << whyNot.toStdString();
+        }
+    }
+    // Whether SetUp() found a server: a derived SetUp goes on only then.
+    bool serverReady() const { return pulse && !this->HasFatalFailure(); }
+
+    PulseServer* pulse = nullptr;
 };
 
 // Where `reference` best lines up inside `signal`.

@@ -19,18 +19,14 @@ using namespace RealSoundSupport;
 
 namespace {
 
-class RealSound : public ::testing::Test
+class RealSound : public WithServer<>
 {
 protected:
     void SetUp() override
     {
-        QString whyNot;
-        pulse = sharedServer(&whyNot);
-        if (!pulse) {
-            if (qEnvironmentVariable("CI") == QLatin1String("true"))
-                FAIL() << "CI must run the real-sound test: " << whyNot.toStdString();
-            GTEST_SKIP() << whyNot.toStdString();
-        }
+        WithServer::SetUp();
+        if (!serverReady())
+            return;
         engine = std::make_unique<AudioManager>(defaults.store(), center);
         bool loaded = false;
         engine->processAudioFile(path, [&](bool ok) { loaded = ok; });
@@ -121,7 +117,6 @@ protected:
     }
 
     const QString path = fixture("speech_48k_floor.wav");
-    PulseServer* pulse = nullptr;
     TestSupport::TempDefaults defaults;
     NotificationCenter center;
     std::unique_ptr<AudioManager> engine;
