@@ -33,21 +33,10 @@ struct Reading
 class RealSoundPosition : public WithServer<::testing::TestWithParam<float>>
 {
 protected:
-    // What the player hands out from `from` for `length` source seconds at
-    // this rate: the decode itself, or its own stretched output.
     std::vector<float> reference(double from, double length, float rate) const
     {
-        if (rate == 1.0f) {
-            const std::vector<float> decoded = PlayerTest::straightDecode(path);
-            return {decoded.begin() + qsizetype(from * kCaptureRate),
-                    decoded.begin() + qsizetype((from + length) * kCaptureRate)};
-        }
-        PlayerTest::ManualPlayer offline = PlayerTest::openManual(path);
-        offline.player->setEnableRate(true);
-        offline.player->setRate(rate);
-        offline.player->setCurrentTime(from, from + length);
-        offline.player->play();
-        return offline.take(qsizetype(length / double(rate) * kCaptureRate) - 100);
+        return playedSpan(path, rate == 1.0f ? PlayerTest::straightDecode(path) : std::vector<float>{},
+                          from, length, rate);
     }
 
     const QString path = fixture("speech_48k_floor.wav");

@@ -1,5 +1,6 @@
 #include "RealSoundSupport.h"
 
+#include "PlayerTestSupport.h"
 #include "audio/AudioPlayer.h"
 #include "support/TestSupport.h"
 
@@ -106,6 +107,22 @@ Match locate(const std::vector<float>& signal, const std::vector<float>& referen
     }
     best.coefficient = dot / std::sqrt(es * er + 1e-30);
     return best;
+}
+
+std::vector<float> playedSpan(const QString& path, const std::vector<float>& decoded, double from,
+                              double length, float rate)
+{
+    if (rate == 1.0f)
+        return {decoded.begin() + qsizetype(from * kCaptureRate),
+                decoded.begin() + qsizetype((from + length) * kCaptureRate)};
+    PlayerTest::ManualPlayer offline = PlayerTest::openManual(path);
+    offline.player->setEnableRate(true);
+    offline.player->setRate(rate);
+    offline.player->setCurrentTime(from, from + length);
+    offline.player->play();
+    // A few frames short of the span: its last frame is where the bound
+    // rounds, and the player gives nothing past it.
+    return offline.take(qsizetype(length / double(rate) * kCaptureRate) - 100);
 }
 
 void runEventsFor(int ms)

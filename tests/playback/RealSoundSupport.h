@@ -54,6 +54,12 @@ protected:
     PulseServer* pulse = nullptr;
 };
 
+// What the player hands out of `path` (a mono file at the capture rate) from
+// `from` for `length` source seconds at this rate: `decoded` (the whole file)
+// itself at 1.0, else the player's own stretched output on a null device.
+std::vector<float> playedSpan(const QString& path, const std::vector<float>& decoded, double from,
+                              double length, float rate);
+
 // Where `reference` best lines up inside `signal`.
 Match locate(const std::vector<float>& signal, const std::vector<float>& reference);
 

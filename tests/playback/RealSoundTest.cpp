@@ -49,21 +49,9 @@ protected:
         return index + 1 < s.size() ? s[index + 1].start - s[index].start : s[index].duration;
     }
 
-    // What the span sounds like at this rate: the decode itself, or the
-    // player's own stretched output on a null device.
     std::vector<float> reference(double start, double length, float rate) const
     {
-        if (rate == 1.0f)
-            return {decoded.begin() + qsizetype(start * kCaptureRate),
-                    decoded.begin() + qsizetype((start + length) * kCaptureRate)};
-        PlayerTest::ManualPlayer offline = PlayerTest::openManual(path);
-        offline.player->setEnableRate(true);
-        offline.player->setRate(rate);
-        offline.player->setCurrentTime(start, start + length);
-        offline.player->play();
-        // A few frames short of the span: its last frame is where the bound
-        // rounds, and the player gives nothing past it.
-        return offline.take(qsizetype(length / double(rate) * kCaptureRate) - 100);
+        return playedSpan(path, decoded, start, length, rate);
     }
 
     // Plays the segment once in repeat mode and checks that what is heard is
