@@ -124,7 +124,6 @@ void PlaybackProducer::buildIndex()
     const double duration = m_decoder.info().duration;
     if (duration <= 0.0)
         return;
-
     const int64_t resume = m_nextFrame;
     const double from = std::max(double(resume) / m_sampleRate - m_runIn, 0.0);
     m_decoder.seek(m_streamStart + duration);
