@@ -35,7 +35,7 @@ TEST(AutoSaveQueue, WritesOneLrcLinePerRowUnderTheAudioFilesIdentity)
     ASSERT_TRUE(AutoSaveQueue::save(snapshot, &identifier));
     EXPECT_EQ(identifier, FileIdentity::uniqueIdentifierForFileAtPath(fixture("speech.wav")));
     EXPECT_EQ(TestSupport::readFile(folder.filePath(identifier)),
-              "[00:00.000]one\n[00:01.000]\n[00:12.339]three");
+              "[00:00.000]one\n[00:01.001]\n[00:12.340]three");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{identifier});
 
     // A row past the last segment is stamped at 0, as the table stamps it.

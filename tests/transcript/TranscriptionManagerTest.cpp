@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <cmath>
 #include <gtest/gtest.h>
 
 using TestSupport::LogCapture;
@@ -62,7 +63,7 @@ TEST_F(TranscriptionManagerTest, SavedFileIsUtf8WithoutBomOrFinalLineFeed)
     stage({0.0, 1.001, 12.34}, {"héllo", "", "日本語 text"});
     ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
     EXPECT_EQ(readFile(path("t")),
-              QString("[00:00.000]héllo\n[00:01.000]\n[00:12.339]日本語 text").toUtf8());
+              QString("[00:00.000]héllo\n[00:01.001]\n[00:12.340]日本語 text").toUtf8());
     EXPECT_TRUE(log.contains("Successfully wrote to file."));
     // Only the target is left in the folder: no temporary file.
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"t"});
@@ -79,10 +80,11 @@ TEST_F(TranscriptionManagerTest, SavedFileIsUtf8WithoutBomOrFinalLineFeed)
     EXPECT_EQ(readFile(path("t")), "plain\ntext\n");
 }
 
-TEST_F(TranscriptionManagerTest, RoundTripKeepsRowsTextsAndTruncatedStamps)
+TEST_F(TranscriptionManagerTest, RoundTripKeepsRowsTextsAndStamps)
 {
     total = 20.0;
-    stage({0.0, 1.001, 12.34}, {"zero", "", "  twelve\t"});
+    // The engine's cuts are float32: 4.72f is 4.7199998 s and is truncated.
+    stage({0.0, 4.72f, 12.34}, {"zero", "", "  twelve\t"});
     ASSERT_TRUE(store.saveTranscriptionsToFile(path("t")));
 
     TranscriptionManager reader([] { return 20.0; });
@@ -92,9 +94,58 @@ TEST_F(TranscriptionManagerTest, RoundTripKeepsRowsTextsAndTruncatedStamps)
     const SegmentList& s = *reader.segments();
     ASSERT_EQ(s.size(), 3);
     EXPECT_EQ(s[0].start, 0.0);
-    EXPECT_EQ(s[1].start, 1.0);
-    EXPECT_DOUBLE_EQ(s[2].start, 12.339);
+    EXPECT_DOUBLE_EQ(s[1].start, 4.719);
+    EXPECT_DOUBLE_EQ(s[2].start, 12.34);
     EXPECT_DOUBLE_EQ(s[2].end(), 20.0);
+}
+
+TEST_F(TranscriptionManagerTest, AThousandSaveLoadCyclesLeaveEveryStampAsItWas)
+{
+    // A lesson of 98 minutes, 300 rows, every millisecond digit in use: the
+    // session's road each time, the stamps read from the file staged again
+    // as the rows' starts and saved over it.
+    total = 98 * 60.0;
+    QStringList lines;
+    for (qint64 i = 0, ms = 0; i < 300; ++i, ms += 19'000 + (i * 7919) % 1000)
+        lines << QString::asprintf("[%02lld:%02lld.%03lld]row %lld", ms / 60'000, ms / 1000 % 60,
+                                   ms % 1000, i);
+    lines[7] = "[02:10.279]the stamp that drifted";
+    const QByteArray original = lines.join('\n').toUtf8();
+    const QString file = path("lesson");
+    writeFile(file, original);
+
+    LogCapture quiet; // the reader logs every line
+    for (int cycle = 0; cycle < 1000; ++cycle) {
+        ASSERT_TRUE(store.loadTranscriptionsFromFile(file));
+        ASSERT_EQ(store.segments()->size(), 300);
+        QList<double> starts;
+        for (const Segment& segment : *store.segments())
+            starts << segment.start;
+        const QStringList texts = store.transcriptions();
+        stage(starts, texts);
+        ASSERT_TRUE(store.saveTranscriptionsToFile(file));
+        ASSERT_EQ(readFile(file), original) << "cycle " << cycle;
+        quiet.clear();
+    }
+}
+
+TEST(LrcLine, AFloat32StartIsTruncatedAsItAlwaysWas)
+{
+    // Every start the engine can cut, to 99 minutes (frames of 0.02f s),
+    // gets the milliseconds of its exact value truncated: its decimal digits
+    // cut after the third.
+    for (qint64 frame = 0; frame < 99 * 60 * 50; ++frame) {
+        const double start = static_cast<float>(frame) * 0.02f;
+        const QString exact = QString::asprintf("%.15f", start);
+        const qint64 whole = exact.section('.', 0, 0).toLongLong();
+        const QString expected = QString::asprintf("[%02lld:%02lld.", whole / 60, whole % 60) +
+                                 exact.section('.', 1).left(3) + "]";
+        ASSERT_EQ(Lrc::formatLine(start, QString()), expected) << "frame " << frame;
+    }
+    EXPECT_EQ(Lrc::formatLine(4.72f, "x"), "[00:04.719]x");
+    // Below zero or not a number is stamped at the start.
+    EXPECT_EQ(Lrc::formatLine(-0.5, "x"), "[00:00.000]x");
+    EXPECT_EQ(Lrc::formatLine(std::nan(""), "x"), "[00:00.000]x");
 }
 
 TEST_F(TranscriptionManagerTest, MissingOrUnreadableFilesChangeNothing)
