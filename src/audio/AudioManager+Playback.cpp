@@ -36,9 +36,8 @@ bool AudioManager::createAudioPlayer(const QString& path)
     std::unique_ptr<AudioOutput> output = m_outputFactory ? m_outputFactory() : nullptr;
     std::unique_ptr<AudioPlayer> player = AudioPlayer::create(path, std::move(output), &error);
     if (!player) {
+        // The player of the file held before stays, with the rest of it.
         qInfo("Error creating audio player: %s", qPrintable(error));
-        m_audioPlayer.reset();
-        m_playerDuration = m_duration;
         fail(QStringLiteral("the audio cannot be played (%1)").arg(error));
         return false;
     }

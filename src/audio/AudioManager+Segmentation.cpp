@@ -9,6 +9,7 @@
 #include <QDebug>
 #include <QThread>
 #include <QVariant>
+#include <memory>
 
 void AudioManager::calculateAdaptiveThresholds()
 {
@@ -46,10 +47,35 @@ void AudioManager::printSliencSegment(const QList<Silence>& silences,
         qInfo("Segment: %ld,start=%.2fs, duration=%.2fs", number++, s.start, s.duration);
 }
 
+AudioManager::LoadedFile AudioManager::loadedFile() const
+{
+    return {m_sampleRate,        m_channelInfo, m_channelCount,    m_audioFormat,
+            m_totalSamples,      m_duration,    m_characteristics, m_decodedWaveform,
+            m_adaptiveThreshold, m_segments,    m_analysisParts};
+}
+
+void AudioManager::restoreLoadedFile(LoadedFile file)
+{
+    m_sampleRate = file.sampleRate;
+    m_channelInfo = std::move(file.channelInfo);
+    m_channelCount = file.channelCount;
+    m_audioFormat = std::move(file.audioFormat);
+    m_totalSamples = file.totalSamples;
+    m_duration = file.duration;
+    m_characteristics = std::move(file.characteristics);
+    m_decodedWaveform = std::move(file.decodedWaveform);
+    m_adaptiveThreshold = file.adaptiveThreshold;
+    m_segments = std::move(file.segments);
+    m_analysisParts = file.analysisParts;
+}
+
 void AudioManager::processAudioFile(const QString& path, const Completion& completion)
 {
     const bool onEngineThread = QThread::currentThread() == thread();
+    // The lists are shared, not copied: the load assigns new ones.
+    auto previous = std::make_shared<LoadedFile>(loadedFile());
     if (!analyzeAudioCharacteristics(path)) {
+        restoreLoadedFile(std::move(*previous));
         if (!completion)
             return;
         if (onEngineThread)
@@ -67,8 +93,9 @@ void AudioManager::processAudioFile(const QString& path, const Completion& compl
     // without waiting for it (the engine's thread may itself be waiting for the
     // worker), and the completion then runs on the engine's thread, whatever
     // the outcome.
-    auto finish = [this, path, completion] {
+    auto finish = [this, path, completion, previous] {
         if (!createAudioPlayer(path)) {
+            restoreLoadedFile(std::move(*previous));
             if (completion)
                 completion(false);
             return;

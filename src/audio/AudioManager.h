@@ -66,7 +66,8 @@ public:
     // hands back the waveform, then calls the completion with the outcome. On
     // the engine's thread all of it happens before this returns; on another
     // thread the analysis does, and the rest, completion included, is queued
-    // to the engine's thread.
+    // to the engine's thread. A load that fails leaves the engine with the
+    // file it held, described, cut and playable as before.
     void processAudioFile(const QString& path, const Completion& completion);
     // Fraction of the current analysis done, 0..1; readable from any thread.
     double analysisProgress() const { return m_progress.load(std::memory_order_relaxed); }
@@ -211,6 +212,25 @@ private:
     };
     std::optional<DecodedWaveform> m_decodedWaveform;
     QList<float> m_waveformData;
+
+    // What a load replaces before it knows whether it succeeds, put back
+    // when it fails.
+    struct LoadedFile
+    {
+        float sampleRate = 0.0f;
+        QString channelInfo;
+        int channelCount = 0;
+        QString audioFormat;
+        qint64 totalSamples = 0;
+        double duration = 0.0;
+        AudioCharacteristics characteristics;
+        std::optional<DecodedWaveform> decodedWaveform;
+        float adaptiveThreshold = 0.0f;
+        SegmentList segments;
+        int analysisParts = 0;
+    };
+    LoadedFile loadedFile() const;
+    void restoreLoadedFile(LoadedFile file);
 
     // Segmentation.
     float m_adaptiveThreshold = 0.0f;

@@ -2,10 +2,13 @@
 // point, as the window does.
 
 #include "audio/AudioManager.h"
+#include "audio/AudioPlayer.h"
 #include "common/NotificationCenter.h"
 #include "support/TestSupport.h"
 
+#include <QFile>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QThread>
 #include <algorithm>
 #include <atomic>
@@ -119,7 +122,26 @@ TEST_F(AudioManagerAnalysis, OnlyTheLeftChannelIsMeasured)
 TEST_F(AudioManagerAnalysis, BadFilesFailWithTheirLogLineAndKeepThePreviousLoad)
 {
     ASSERT_TRUE(load("speech.wav"));
+    TestSupport::processEvents();
     const SegmentList before = engine.segments();
+    const AudioPlayer* player = engine.audioPlayer();
+    ASSERT_NE(player, nullptr);
+    const double duration = engine.duration();
+    const qint64 samples = engine.totalSamples();
+    const float rate = engine.sampleRate();
+    const QList<float> peaks = engine.waveformData();
+    // Described, cut and playable as before: what the window goes on showing.
+    const auto keptThePreviousLoad = [&](const char* file) {
+        EXPECT_EQ(engine.segments(), before) << file;
+        EXPECT_EQ(engine.audioPlayer(), player) << file;
+        EXPECT_EQ(engine.duration(), duration) << file;
+        EXPECT_EQ(engine.sampleRate(), rate) << file;
+        EXPECT_EQ(engine.audioFormat(), "WAV") << file;
+        EXPECT_EQ(engine.totalSamples(), samples) << file;
+        EXPECT_EQ(engine.audioCharacteristics().duration, duration) << file;
+        EXPECT_EQ(engine.waveformData(), peaks) << file;
+        EXPECT_TRUE(engine.updateSegments(before)) << file;
+    };
     const struct
     {
         const char* file;
@@ -136,16 +158,32 @@ TEST_F(AudioManagerAnalysis, BadFilesFailWithTheirLogLineAndKeepThePreviousLoad)
         EXPECT_TRUE(log.contains(c.logLine))
             << c.file << ": " << qPrintable(log.lines().join(" | "));
         EXPECT_FALSE(engine.lastError().isEmpty()) << c.file;
-        EXPECT_EQ(engine.segments(), before) << c.file;
+        keptThePreviousLoad(c.file);
     }
 
     TestSupport::LogCapture log;
     EXPECT_FALSE(load("truncated.mp3"));
     EXPECT_TRUE(log.lines().join('\n').contains("Error reading audio file: "));
     EXPECT_TRUE(engine.lastError().contains("truncated"));
+    keptThePreviousLoad("truncated.mp3");
 
-    // A file too short to cut still records what it is.
-    EXPECT_FALSE(load("short_0.05s.wav"));
+    // A file gone between its analysis (on a worker) and its player.
+    QTemporaryDir folder;
+    const QString vanishing = folder.filePath("vanishing.mp3");
+    ASSERT_TRUE(QFile::copy(fixture("speech.mp3"), vanishing));
+    bool ok = true;
+    std::unique_ptr<QThread> worker(QThread::create(
+        [&] { engine.processAudioFile(vanishing, [&](bool success) { ok = success; }); }));
+    worker->start();
+    worker->wait();
+    ASSERT_TRUE(QFile::remove(vanishing));
+    TestSupport::processEvents();
+    EXPECT_FALSE(ok);
+    EXPECT_TRUE(engine.lastError().startsWith("the audio cannot be played"));
+    keptThePreviousLoad("vanishing.mp3");
+
+    // The analysis step on its own still records what a file too short to cut is.
+    EXPECT_FALSE(engine.analyzeAudioCharacteristics(fixture("short_0.05s.wav")));
     EXPECT_NEAR(engine.duration(), 0.05, 1e-6);
     EXPECT_EQ(engine.sampleRate(), 44100.0f);
 }
