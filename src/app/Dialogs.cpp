@@ -115,14 +115,18 @@ QString Dialogs::nameFilterForExtensions(const QString& label, const QStringList
     return QStringLiteral("%1 (%2)").arg(label, patterns.join(QLatin1Char(' ')));
 }
 
-std::optional<QString>
-Dialogs::asyncSelectFileWithExtensions(const QStringList& extensions,
-                                       std::optional<FileSelectionError>* error)
+QString Dialogs::transcriptNameFilter()
+{
+    // One pattern: the panels match names without regard to case.
+    return LocalizedString(Texts::TranscriptFiles) + QStringLiteral(" (*.lrc)");
+}
+
+std::optional<QString> Dialogs::asyncSelectTranscript(std::optional<FileSelectionError>* error)
 {
     QFileDialog dialog(mainWindow());
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setNameFilter(nameFilterForExtensions(LocalizedString(Texts::AudioFiles), extensions));
+    dialog.setNameFilter(transcriptNameFilter());
     const int result = dialog.exec();
     if (result == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
         return dialog.selectedFiles().constFirst();
@@ -132,6 +136,21 @@ Dialogs::asyncSelectFileWithExtensions(const QStringList& extensions,
         *error = cancelled;
     }
     return std::nullopt;
+}
+
+QFileDialog* Dialogs::transcriptSavePanel(QWidget* window, const QString& proposedName)
+{
+    auto* panel = new QFileDialog(window, LocalizedString(Texts::SaveTranscript));
+    panel->setObjectName(QStringLiteral("transcriptSavePanel"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setFileMode(QFileDialog::AnyFile);
+    panel->setNameFilter(transcriptNameFilter());
+    panel->setDefaultSuffix(QStringLiteral("lrc"));
+    panel->setLabelText(QFileDialog::Accept, LocalizedString(Texts::Save));
+    panel->selectFile(proposedName);
+    panel->setWindowModality(Qt::WindowModal);
+    return panel;
 }
 
 void Dialogs::selectFileWithExtensions(const QStringList& extensions,

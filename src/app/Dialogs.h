@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+class QFileDialog;
 class QMessageBox;
 class QWidget;
 
@@ -44,12 +45,20 @@ public:
     static void selectFileWithExtensions(const QStringList& extensions,
                                          const SelectionHandler& handler);
 
-    // The same panel, modal: the chosen path, or nothing when it was cancelled.
-    static std::optional<QString> asyncSelectFileWithExtensions(
-        const QStringList& extensions, std::optional<FileSelectionError>* error = nullptr);
+    // A modal panel choosing one existing transcript (.lrc): the chosen path,
+    // or nothing when it was cancelled.
+    static std::optional<QString>
+    asyncSelectTranscript(std::optional<FileSelectionError>* error = nullptr);
+
+    // A save panel for a transcript, window-modal on the window, proposing the
+    // name; it may name a new file or an existing one (after asking). Deletes
+    // itself when closed; the caller connects to it and opens it.
+    static QFileDialog* transcriptSavePanel(QWidget* window, const QString& proposedName);
 
     // The name filter of a file panel for the extensions ("Audio (*.mp3 *.MP3 …)").
     static QString nameFilterForExtensions(const QString& label, const QStringList& extensions);
+    // "Transcripts (*.lrc)", in the interface language.
+    static QString transcriptNameFilter();
 
     // The window alerts are shown on: the main window, else the active window.
     static QWidget* mainWindow();

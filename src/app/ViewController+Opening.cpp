@@ -28,8 +28,7 @@
 
 void ViewController::openFileFromPath(const QString& path)
 {
-    m_currentAudioPath = path;
-    processAudioFile();
+    loadAudioFile(path);
 }
 
 void ViewController::setOpeningFinishedHandler(std::function<void(bool)> handler)
@@ -39,9 +38,14 @@ void ViewController::setOpeningFinishedHandler(std::function<void(bool)> handler
 
 void ViewController::processAudioFile()
 {
-    const QString path = m_currentAudioPath;
-    // The engine is analysed on a worker and must not be read or played from
-    // here meanwhile; what was playing stops now.
+    loadAudioFile(m_currentAudioPath);
+}
+
+void ViewController::loadAudioFile(const QString& path)
+{
+    // The session goes on naming the file it shows until the new one has
+    // opened. The engine is analysed on a worker and must not be read or
+    // played from here meanwhile; what was playing stops now.
     if (m_loadsRunning == 0)
         m_engine.stopPlayback();
     ++m_loadsRunning;
@@ -82,6 +86,10 @@ void ViewController::startLoad(const QString& path)
 void ViewController::finishOpening(bool success, const QString& path)
 {
     m_loadInFlight = false;
+    // A failed load leaves the engine with what it held before, so the file
+    // to show is the last one that loaded, if any did since the last showing.
+    if (success)
+        m_loadedNotShown = path;
     if (!m_pendingLoad.isEmpty())
         startLoad(std::exchange(m_pendingLoad, QString()));
     if (--m_loadsRunning > 0)
@@ -89,13 +97,23 @@ void ViewController::finishOpening(bool success, const QString& path)
     m_progressTimer->stop();
     hideLoadingIndicator();
 
-    initTranscription();
-    const QFileInfo file(path);
-    qInfo("File name with extension: %s", qUtf8Printable(file.fileName()));
-    changeWindowTitle(file.completeBaseName());
-
-    showEngineSegmentsAndPlay();
-    RecentDocuments(m_defaults).add(path);
+    const QString loaded = std::exchange(m_loadedNotShown, QString());
+    if (loaded.isEmpty()) {
+        // The session stays on the lesson it shows, rows, title and recent
+        // list untouched; the engine still holds it. Its current segment
+        // plays again, as playback stopped for the load.
+        if (m_segmentsShown > 0)
+            m_engine.playSegmentAtIndex(m_currentSegmentIndex);
+        updateStatusBar();
+    } else {
+        m_currentAudioPath = loaded;
+        initTranscription();
+        const QFileInfo file(loaded);
+        qInfo("File name with extension: %s", qUtf8Printable(file.fileName()));
+        changeWindowTitle(file.completeBaseName());
+        showEngineSegmentsAndPlay();
+        RecentDocuments(m_defaults).add(loaded);
+    }
     if (m_openingFinished)
         m_openingFinished(success);
 }
@@ -161,8 +179,12 @@ bool ViewController::isValidAudioFile(const QString& path)
 
 void ViewController::openFile()
 {
+    // The panel does not offer ringtones (.m4r), which the type check and the
+    // direct road still take.
+    QStringList offered = audioFileExtensions();
+    offered.removeAll(QStringLiteral("m4r"));
     Dialogs::selectFileWithExtensions(
-        audioFileExtensions(),
+        offered,
         [self = QPointer<ViewController>(this)](std::optional<QString> path,
                                                 std::optional<Dialogs::FileSelectionError>) {
             if (self.isNull() || !path)
@@ -174,9 +196,6 @@ void ViewController::openFile()
 void ViewController::openFileChosen(const QString& path)
 {
     qInfo("file:%s", qUtf8Printable(path));
-    // The session names the file before it is checked, and keeps the name
-    // when the check refuses it.
-    m_currentAudioPath = path;
     handleSelectedFile(path);
 }
 
@@ -220,7 +239,7 @@ void ViewController::typeCheckFinished(const QString& path, bool valid)
                                    {QString::number(kLimitMB)}));
         return;
     }
-    processAudioFile();
+    loadAudioFile(path);
 }
 
 void ViewController::requestDirectoryAccess(

@@ -105,41 +105,35 @@ bool ViewController::saveTranscriptionToSandbox()
 
 void ViewController::saveTranscriptionWithCompletion(const std::function<void(bool)>& completion)
 {
-    // Saving on close overwrites a transcript the learner picks, deliberately
-    // an existing one.
-    std::optional<Dialogs::FileSelectionError> error;
-    const std::optional<QString> path =
-        Dialogs::asyncSelectFileWithExtensions({QStringLiteral("lrc")}, &error);
-    if (error) {
-        qInfo("Error: %s", qUtf8Printable(error->localizedDescription));
-        completion(false);
-        return;
-    }
-    if (!path) {
-        qInfo("No file selected");
-        completion(false);
-        return;
-    }
-    stageTranscriptions(m_transcriptions);
-    const bool saved = m_transcriptions.saveTranscriptionsToFile(*path);
-    if (saved)
-        saveTranscriptionToSandbox();
-    completion(saved);
+    // The panel of Export: the learner may name a new file.
+    QFileDialog* panel = Dialogs::transcriptSavePanel(
+        window(), QFileInfo(m_currentAudioPath).completeBaseName() + QStringLiteral(".lrc"));
+    connect(panel, &QFileDialog::finished, this, [this, panel, completion](int result) {
+        const QString path =
+            result == QDialog::Accepted ? panel->selectedFiles().value(0) : QString();
+        if (path.isEmpty()) {
+            qInfo("No file selected");
+            completion(false);
+            return;
+        }
+        stageTranscriptions(m_transcriptions);
+        const bool saved = m_transcriptions.saveTranscriptionsToFile(path);
+        if (saved)
+            saveTranscriptionToSandbox();
+        else
+            Dialogs::showMsg(LocalizedString(Texts::SaveError),
+                             LocalizedString(Texts::ErrorWritingToFile));
+        completion(saved);
+    });
+    panel->open();
 }
 
 void ViewController::saveTranscription()
 {
     if (isProcessing() || m_engine.numberOfSegments() == 0)
         return;
-    auto* panel = new QFileDialog(window(), LocalizedString(Texts::SaveTranscript));
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setAcceptMode(QFileDialog::AcceptSave);
-    panel->setFileMode(QFileDialog::AnyFile);
-    panel->setNameFilter(QStringLiteral("LRC (*.lrc)"));
-    panel->setDefaultSuffix(QStringLiteral("lrc"));
-    panel->setLabelText(QFileDialog::Accept, LocalizedString(Texts::Save));
-    panel->selectFile(QFileInfo(m_currentAudioPath).completeBaseName() + QStringLiteral(".lrc"));
-    panel->setWindowModality(Qt::WindowModal);
+    QFileDialog* panel = Dialogs::transcriptSavePanel(
+        window(), QFileInfo(m_currentAudioPath).completeBaseName() + QStringLiteral(".lrc"));
     connect(panel, &QFileDialog::fileSelected, this, &ViewController::exportTranscriptionTo);
     panel->open();
 }
@@ -158,13 +152,17 @@ void ViewController::exportTranscriptionTo(const QString& path)
 
 void ViewController::importTranscription()
 {
-    if (isProcessing() || m_engine.numberOfSegments() == 0) {
+    if (isProcessing()) {
+        // The rows the import would fill are not there yet.
+        showError(LocalizedString(Texts::Warning), LocalizedString(Texts::StillAnalysing));
+        return;
+    }
+    if (m_engine.numberOfSegments() == 0) {
         showError(LocalizedString(Texts::Warning), LocalizedString(Texts::OpenAudioFileFirst));
         return;
     }
     std::optional<Dialogs::FileSelectionError> error;
-    const std::optional<QString> path =
-        Dialogs::asyncSelectFileWithExtensions({QStringLiteral("lrc")}, &error);
+    const std::optional<QString> path = Dialogs::asyncSelectTranscript(&error);
     if (error) {
         qInfo("Error: %s", qUtf8Printable(error->localizedDescription));
         return;

@@ -17,7 +17,9 @@ void ViewController::updateStatusBar()
 {
     if (isProcessing())
         return;
-    const QString text = StatusText::build(StatusSnapshot::of(m_engine, m_currentAudioPath));
+    const QString text = m_currentAudioPath.isEmpty()
+                             ? LocalizedString(Texts::NoAudioFileOpened)
+                             : StatusText::build(StatusSnapshot::of(m_engine, m_currentAudioPath));
     m_statusBarLabel->setText(text);
     m_statusBarLabel->setAccessibleName(text);
 }

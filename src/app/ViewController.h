@@ -57,7 +57,8 @@ public:
     static const QStringList& audioFileExtensions();
     // The direct road: no type or size check.
     void openFileFromPath(const QString& path);
-    // Runs the engine on currentAudioPath() on a worker, then shows the result.
+    // Runs the engine on currentAudioPath() on a worker, then shows the result;
+    // after a failure the session stays on the lesson it showed.
     void processAudioFile();
     bool isProcessing() const { return m_loadsRunning > 0; }
     // Whether the window shows a file with segments (read without touching
@@ -97,8 +98,9 @@ public:
     // ---- Persistence (ViewController+Persistence.cpp) ----
     void initTranscription();
     void initEmptyTranscriptions();
-    // Asks for an existing .lrc file, writes the transcript there and into
-    // the store; the completion hears whether the chosen file was written.
+    // Asks for a .lrc file in the save panel of Export, writes the transcript
+    // there and into the store; the completion hears whether it was written
+    // (false also when the panel was cancelled).
     void saveTranscriptionWithCompletion(const std::function<void(bool)>& completion);
     bool saveTranscriptionToSandbox();
     // Export through a save panel proposing "<audio name>.lrc".
@@ -138,6 +140,7 @@ private:
     void animateHeight(QWidget* area, QGraphicsOpacityEffect* effect, int height, bool hidden,
                        bool animated);
     void finishOpening(bool success, const QString& path);
+    void loadAudioFile(const QString& path);
     void startLoad(const QString& path);
     void showAnalysisProgress();
     void typeCheckFinished(const QString& path, bool valid);
@@ -183,6 +186,7 @@ private:
     int m_loadsRunning = 0;
     bool m_loadInFlight = false; // a worker is analysing into the engine
     QString m_pendingLoad;       // the open waiting for it, the latest only
+    QString m_loadedNotShown;    // loaded by the engine, shown once no load follows
     qsizetype m_segmentsShown = 0;
     std::function<void(bool)> m_openingFinished;
 };

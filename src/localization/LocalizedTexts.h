@@ -299,3 +299,14 @@ inline constexpr std::array PreferencesWindow = {
     ShortcutHint,       ResetToDefaults,     ChooseFont};
 
 } // namespace Texts
+
+// Opening and saving: transcript panels, an import during an analysis
+namespace Texts {
+
+inline constexpr const char* TranscriptFiles = QT_TRANSLATE_NOOP("Localizable", "Transcripts");
+inline constexpr const char* StillAnalysing = QT_TRANSLATE_NOOP(
+    "Localizable", "The lesson is still being analysed. Import the dictation once it has opened.");
+
+inline constexpr std::array SessionFiles = {TranscriptFiles, StillAnalysing};
+
+} // namespace Texts

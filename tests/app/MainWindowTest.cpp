@@ -15,6 +15,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QGraphicsOpacityEffect>
 #include <QLineEdit>
@@ -83,7 +84,7 @@ class FailedOpening : public ::testing::TestWithParam<BadFile>
 {
 };
 
-TEST_P(FailedOpening, AlertsThenShowsWhatTheEngineHoldsAndStaysUsable)
+TEST_P(FailedOpening, AlertsAndLeavesTheWindowOnWhatItShowed)
 {
     const QString bad = fixture(GetParam().name);
     for (const bool afterAGoodFile : {false, true}) {
@@ -92,6 +93,9 @@ TEST_P(FailedOpening, AlertsThenShowsWhatTheEngineHoldsAndStaysUsable)
         if (afterAGoodFile) {
             ASSERT_TRUE(h.open(fixture("speech.wav")));
         }
+        const QString title = h.window().windowTitle();
+        const QString status = h.session().statusText();
+        const int rows = h.session().transcriptionTableView()->model()->rowCount();
         AlertAnswerer answerer(QStringLiteral("OK"));
         bool success = true;
         ASSERT_TRUE(h.open(bad, &success));
@@ -101,11 +105,20 @@ TEST_P(FailedOpening, AlertsThenShowsWhatTheEngineHoldsAndStaysUsable)
         EXPECT_EQ(answerer.seen()[0].text, "Error");
         EXPECT_EQ(answerer.seen()[0].informativeText, "Failed to process audio file");
 
-        // The window shows the engine's state, and the title names the file.
-        EXPECT_EQ(h.session().transcriptionTableView()->model()->rowCount(),
-                  h.engine().numberOfSegments());
+        // The window stays on the lesson it showed, or empty, as the engine does.
+        EXPECT_EQ(h.window().windowTitle(), afterAGoodFile ? "speech" : "Kelmora");
+        EXPECT_EQ(h.window().windowTitle(), title);
+        EXPECT_EQ(h.session().statusText(), status);
+        if (!afterAGoodFile) {
+            EXPECT_EQ(status, "No audio file opened");
+        }
+        EXPECT_EQ(h.session().transcriptionTableView()->model()->rowCount(), rows);
+        EXPECT_EQ(rows, h.engine().numberOfSegments());
         EXPECT_EQ(h.session().waveformView()->segments().size(), h.engine().numberOfSegments());
-        EXPECT_EQ(h.window().windowTitle(), QFileInfo(bad).completeBaseName());
+        EXPECT_EQ(h.session().currentAudioPath(), afterAGoodFile ? fixture("speech.wav") : "");
+        EXPECT_EQ(RecentDocuments(h.defaults()).paths(),
+                  afterAGoodFile ? QStringList{fixture("speech.wav")} : QStringList{});
+        EXPECT_EQ(h.engine().isPlaying(), afterAGoodFile);
 
         // A good file opens after it as ever.
         ASSERT_TRUE(h.open(fixture("speech.wav"), &success));
@@ -206,35 +219,99 @@ TEST(ClosePrompt, DontSaveStopsTheEngineAndCloses)
     EXPECT_FALSE(h.engine().isPlaying());
 }
 
-TEST(ClosePrompt, SaveWritesTheChosenTranscriptThenCloses)
+namespace {
+
+// Answers the save panel of the close prompt's "Save" when it shows, after
+// noting what it looked like.
+class SavePanelAnswerer
+{
+public:
+    explicit SavePanelAnswerer(std::function<void(QFileDialog*)> answer)
+        : m_answer(std::move(answer))
+    {
+        m_poll.setInterval(10);
+        QObject::connect(&m_poll, &QTimer::timeout, [this] {
+            for (QWidget* widget : QApplication::topLevelWidgets()) {
+                auto* panel = qobject_cast<QFileDialog*>(widget);
+                if (!panel || !panel->isVisible())
+                    continue;
+                if (!panel->property("kelmoraSeen").toBool()) {
+                    panel->setProperty("kelmoraSeen", true);
+                    auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                    seen = {panel->windowTitle(), panel->acceptMode(), panel->nameFilters(),
+                            name ? name->text() : QString()};
+                    ++shown;
+                }
+                m_answer(panel);
+            }
+        });
+        m_poll.start();
+    }
+
+    struct Look
+    {
+        QString title;
+        QFileDialog::AcceptMode mode = QFileDialog::AcceptOpen;
+        QStringList filters;
+        QString proposedName;
+    } seen;
+    int shown = 0;
+
+private:
+    std::function<void(QFileDialog*)> m_answer;
+    QTimer m_poll;
+};
+
+} // namespace
+
+TEST(ClosePrompt, SaveAsksForANewOrExistingTranscriptWritesItThenCloses)
 {
     WindowHarness h;
     ASSERT_TRUE(h.open(fixture("speech.wav")));
     h.session().transcriptionTableView()->updateTranscription(QStringLiteral("Good morning"), 0);
-    const QString chosen = h.documentsPath() + QStringLiteral("/chosen.lrc");
-    TestSupport::writeFile(chosen, "old");
-    // The save asks for an existing transcript in a file panel.
-    QTimer panelAnswer;
-    panelAnswer.setInterval(10);
-    QObject::connect(&panelAnswer, &QTimer::timeout, [&] {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            auto* panel = qobject_cast<QFileDialog*>(widget);
-            // The file's name is typed into the panel, as a learner would;
-            // a panel still listing its folder may not take it at once.
-            if (panel && panel->isVisible()) {
-                if (auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
-                    name->setText(chosen);
-                if (panel->selectedFiles().value(0) == chosen)
-                    static_cast<QDialog*>(panel)->done(QDialog::Accepted);
-            }
-        }
+    // A file that does not exist yet: the panel may create it.
+    const QString chosen = h.documentsPath() + QStringLiteral("/new/speech.lrc");
+    ASSERT_TRUE(QDir().mkpath(h.documentsPath() + "/new"));
+    SavePanelAnswerer panel([&](QFileDialog* dialog) {
+        // The file's name is typed into the panel, as a learner would; a
+        // panel still listing its folder may not take it at once.
+        if (auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+            name->setText(chosen);
+        if (dialog->selectedFiles().value(0) == chosen)
+            static_cast<QDialog*>(dialog)->accept(); // the panel's own checks run
     });
-    panelAnswer.start();
     AlertAnswerer answerer(QStringLiteral("Save"));
     h.window().close();
     ASSERT_TRUE(waitFor([&] { return !h.window().isVisible(); }));
 
+    EXPECT_EQ(panel.shown, 1);
+    EXPECT_EQ(panel.seen.title, "Save Transcript");
+    EXPECT_EQ(panel.seen.mode, QFileDialog::AcceptSave);
+    EXPECT_EQ(panel.seen.filters, QStringList{"Transcripts (*.lrc)"});
+    EXPECT_EQ(panel.seen.proposedName, "speech.lrc");
     const QStringList lines = QString::fromUtf8(TestSupport::readFile(chosen)).split('\n');
     EXPECT_EQ(lines.size(), h.session().transcriptionTableView()->model()->rowCount());
     EXPECT_EQ(lines.value(0), "[00:00.000]Good morning");
+}
+
+TEST(ClosePrompt, CancellingTheSavePanelKeepsTheWindowOpen)
+{
+    WindowHarness h;
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    SavePanelAnswerer panel([](QFileDialog* dialog) { dialog->reject(); });
+    {
+        AlertAnswerer answerer(QStringLiteral("Save"));
+        h.window().close();
+        ASSERT_TRUE(waitFor([&] { return panel.shown == 1 && !panel.seen.title.isEmpty(); }));
+    }
+    ASSERT_TRUE(waitFor([] {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (qobject_cast<QFileDialog*>(widget) && widget->isVisible())
+                return false;
+        return true;
+    }));
+    QApplication::processEvents();
+    EXPECT_TRUE(h.window().isVisible());
+    EXPECT_TRUE(h.engine().isPlaying());
+    EXPECT_GT(h.session().transcriptionTableView()->model()->rowCount(), 0);
 }

@@ -12,9 +12,11 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using TestSupport::fixture;
@@ -175,7 +177,26 @@ TEST_F(Session, ClearEmptiesEveryRowAfterConfirmingAndImportBringsRowsBack)
     EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
     EXPECT_EQ(table->model()->rowCount(), h.engine().numberOfSegments());
 
-    h.session().importTranscriptionFrom(exported);
+    // Import through its panel, which lists transcripts.
+    QStringList filters;
+    QTimer panelAnswer;
+    panelAnswer.setInterval(10);
+    QObject::connect(&panelAnswer, &QTimer::timeout, [&] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* panel = qobject_cast<QFileDialog*>(widget);
+            if (!panel || !panel->isVisible())
+                continue;
+            filters = panel->nameFilters();
+            if (auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+                name->setText(exported);
+            if (panel->selectedFiles().value(0) == exported)
+                static_cast<QDialog*>(panel)->accept();
+        }
+    });
+    panelAnswer.start();
+    h.session().importTranscription();
+    panelAnswer.stop();
+    EXPECT_EQ(filters, QStringList{"Transcripts (*.lrc)"});
     EXPECT_EQ(table->mutableTranscriptions().value(0), "kept");
     EXPECT_EQ(table->mutableTranscriptions().value(2), "also kept");
     EXPECT_EQ(h.session().currentSegmentIndex(), 0);

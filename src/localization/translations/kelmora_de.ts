@@ -503,5 +503,13 @@ Versionshinweise:
         <source>Choose the dictation font</source>
         <translation>Schrift des Diktats wählen</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transkripte</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>Die Lektion wird noch analysiert. Importieren Sie das Diktat, sobald sie geöffnet ist.</translation>
+    </message>
 </context>
 </TS>

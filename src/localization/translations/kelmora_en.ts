@@ -503,5 +503,13 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>Choose the dictation font</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcripts</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>The lesson is still being analysed. Import the dictation once it has opened.</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,13 @@ Notas de la versión:
         <source>Choose the dictation font</source>
         <translation>Elegir la fuente del dictado</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcripciones</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>La lección todavía se está analizando. Importa el dictado cuando se haya abierto.</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,13 @@ Notes de version :
         <source>Choose the dictation font</source>
         <translation>Choisir la police de la dictée</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcriptions</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>La leçon est encore en cours d'analyse. Importez la dictée une fois qu'elle est ouverte.</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,13 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>ディクテーションのフォントを選択</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>書き起こし</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>レッスンはまだ解析中です。開き終わってからディクテーションをインポートしてください。</translation>
+    </message>
 </context>
 </TS>

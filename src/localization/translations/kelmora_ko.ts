@@ -503,5 +503,13 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>받아쓰기 글꼴 선택</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>녹취록</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>레슨을 아직 분석하고 있습니다. 열린 후에 받아쓰기를 가져오세요.</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,13 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>Выбрать шрифт диктанта</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Расшифровки</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>Урок ещё анализируется. Импортируйте диктант, когда он откроется.</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,13 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>เลือกแบบอักษรของการเขียนตามคำบอก</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>บทถอดความ</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>ยังคงวิเคราะห์บทเรียนอยู่ นำเข้าการเขียนตามคำบอกเมื่อเปิดบทเรียนเสร็จแล้ว</translation>
+    </message>
 </context>
 </TS>

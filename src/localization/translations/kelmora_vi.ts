@@ -503,5 +503,13 @@ Ghi chú phát hành:
         <source>Choose the dictation font</source>
         <translation>Chọn phông chữ cho bài chính tả</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Bản chép lời</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>Bài học vẫn đang được phân tích. Hãy nhập bài chính tả sau khi bài học đã mở xong.</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,13 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>选择听写字体</translation>
     </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>文稿</translation>
+    </message>
+    <message>
+        <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
+        <translation>课程仍在分析中。请在打开完成后再导入听写。</translation>
+    </message>
 </context>
 </TS>
