@@ -85,10 +85,16 @@ void CustomTextField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
     applyTextColor(Qt::black);
-    // Whatever brought the focus here (a click, Tab elsewhere, a selection),
-    // typing starts at the beginning with nothing selected.
-    deselect();
-    setCursorPosition(0);
+    // Back from another window or a menu the caret stays where it was, and a
+    // click puts it where it lands; any other road into the row (the keyboard,
+    // the table moving the row's field here) types after what is there, with
+    // nothing selected.
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+        reason != Qt::MouseFocusReason) {
+        deselect();
+        end(false);
+    }
     restartBlink();
     emit editingBegan();
 }

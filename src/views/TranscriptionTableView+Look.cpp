@@ -85,8 +85,14 @@ void TranscriptionTableView::observeNotifications()
             setShowLineNumbers(n.object.toBool());
     });
     m_center.addObserver(Notifications::MouseDownSelectSegment, this, [this](const Note& n) {
-        if (isNumber(n.object))
-            setCurrentSegment(n.object.toLongLong());
+        if (!isNumber(n.object))
+            return;
+        const qint64 index = n.object.toLongLong();
+        if (index < 0 || index >= rowCount())
+            return;
+        setCurrentSegment(index);
+        // A click in the strip picks the row to type in: the keys go there.
+        focusEditor(int(index));
     });
 }
 

@@ -175,10 +175,10 @@ void TranscriptionTableView::moveEditorToRow(int row)
     m_editorRow = row;
     if (!m_editor)
         return;
-    // The view selects a new editor's whole text; the row should read as the
-    // painted rows do, from its start.
+    // The view selects a new editor's whole text; entering a row puts the
+    // caret after what is there instead, so typing goes on from its end.
     m_editor->deselect();
-    m_editor->setCursorPosition(0);
+    m_editor->end(false);
     connect(m_editor, &CustomTextField::editingBegan, this,
             [this, row] { m_currentEditingRow = row; });
     // The learner keeps typing in whichever row became current.
