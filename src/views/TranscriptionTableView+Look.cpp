@@ -9,6 +9,7 @@
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/PreferenceKeys.h"
+#include "views/ColorContrast.h"
 #include "views/CustomTableHeaderView.h"
 #include "views/CustomTextField.h"
 #include "views/TranscriptionTableCellDelegate.h"
@@ -154,6 +155,10 @@ void TranscriptionTableView::applyBackgroundColor()
         pal.setColor(role, m_tableBackgroundColor);
     setPalette(pal);
     m_cellDelegate->setNumberColor(complementaryColorFor(m_tableBackgroundColor));
+    // The current row's mark: the edited row's field colour or black,
+    // whichever stands out more on the table.
+    m_cellDelegate->setMarkColor(ColorContrast::bestOn(
+        m_tableBackgroundColor, {CustomTextField::fieldColor(), QColor(Qt::black)}));
     viewport()->update();
 }
 
