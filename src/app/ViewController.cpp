@@ -74,6 +74,9 @@ void ViewController::buildViews()
     m_waveformScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_waveformScrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_waveformScrollArea->setWidgetResizable(false);
+    // A click in the strip selects a row to type in, so it leaves the keyboard
+    // with the rows; Tab still reaches the strip to scroll it with the arrows.
+    m_waveformScrollArea->setFocusPolicy(Qt::TabFocus);
     m_waveformView = new WaveformView(m_engine, m_center);
     m_waveformView->setAccessibleName(LocalizedString(Texts::Waveform));
     m_waveformScrollArea->setWidget(m_waveformView);

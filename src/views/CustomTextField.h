@@ -6,15 +6,27 @@
 
 // The text field of a dictation row. It keeps the typing focus: Return, Tab,
 // Shift-Tab and Escape do nothing in it, so the learner's caret never leaves
-// the row by accident. While it has the focus its text is black and its caret
-// `cursorColor`; otherwise the text is drawn in `textColor`.
+// the row by accident. While it has the focus it draws a light field behind
+// its text, the text black and its caret `cursorColor`; otherwise the text is
+// drawn in `textColor` straight on the table.
 class CustomTextField : public QLineEdit
 {
     Q_OBJECT
 public:
-    // Distance from the cell's left edge to the first glyph; the painted rows
-    // use it too, so text does not jump when a row gains its editor.
-    static constexpr int kTextInset = 6;
+    // Distance from the cell's left edge to the first glyph.
+    static constexpr int kTextInset = 10;
+
+    // Where a row's text sits in a cell: the left edge and baseline of its
+    // first glyph. The painted rows draw there and the field lays its text
+    // out to the same point, so a row's text does not move by a pixel when
+    // it gains or loses its field, whatever the font.
+    static QPointF textOrigin(const QRect& cell, const QFont& font);
+    // The top of the text line in a cell (the line is the font's height).
+    static int lineTop(const QRect& cell, const QFont& font);
+    // The light field behind the text being typed in a cell, and its colour:
+    // the palette's Base when black reads on it at 10:1 or better, else white.
+    static QRect fieldRect(const QRect& cell);
+    static QColor fieldColor();
 
     explicit CustomTextField(QWidget* parent = nullptr);
 
@@ -32,6 +44,8 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -39,6 +53,7 @@ protected:
 
 private:
     void applyTextColor(const QColor& color);
+    void placeText();
     void restartBlink();
 
     QColor m_cursorColor;

@@ -3,13 +3,16 @@
 #include "views/CustomTextField.h"
 #include "views/TranscriptionTableModel.h"
 
-#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QTableView>
+#include <QToolTip>
 
 namespace {
-// The number cell sits this much above the row's middle, as the text cells'
-// baseline does.
-constexpr int kNumberRaise = 2;
+constexpr int kText = TranscriptionTableModel::TranscriptionColumn;
+// The current-row mark: a bar this wide at the left edge of the row's first
+// shown column, as tall as the field of the row being typed in.
+constexpr int kMarkWidth = 3;
 } // namespace
 
 TranscriptionTableCellDelegate::TranscriptionTableCellDelegate(QObject* parent)
@@ -17,35 +20,80 @@ TranscriptionTableCellDelegate::TranscriptionTableCellDelegate(QObject* parent)
 {
 }
 
+int TranscriptionTableCellDelegate::textRoom(const QRect& cell)
+{
+    // Up to where the row's field ends.
+    return CustomTextField::fieldRect(cell).right() + 1 - cell.left() - CustomTextField::kTextInset;
+}
+
+const QString& TranscriptionTableCellDelegate::shownText(int row, const QString& text,
+                                                         const QRect& cell) const
+{
+    Shown& entry = m_shown[row];
+    const int room = textRoom(cell);
+    if (entry.room != room || entry.text != text)
+        entry = {text, room, QFontMetrics(m_font).elidedText(text, Qt::ElideRight, room)};
+    return entry.shown;
+}
+
 void TranscriptionTableCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                            const QModelIndex& index) const
 {
-    // The live editor draws its own text over the row.
-    if (const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
-        view && view->indexWidget(index))
-        return;
+    const bool current = index.row() == m_currentRow;
+    if (current) {
+        const auto* table = qobject_cast<const QTableView*>(option.widget);
+        const bool firstShown =
+            index.column() == TranscriptionTableModel::LineNumberColumn ||
+            (table && table->isColumnHidden(TranscriptionTableModel::LineNumberColumn));
+        if (firstShown) {
+            const QRect field = CustomTextField::fieldRect(option.rect);
+            painter->fillRect(QRect(option.rect.left(), field.top(), kMarkWidth, field.height()),
+                              m_markColor);
+        }
+        // The live editor draws its own text over the row.
+        if (index.column() == kText)
+            return;
+    }
     const QString text = index.data(Qt::DisplayRole).toString();
     if (text.isEmpty())
         return;
     painter->save();
     painter->setFont(m_font);
+    painter->setClipRect(option.rect);
+    // Numbers and text share the baseline the editor uses.
+    QPointF origin = CustomTextField::textOrigin(option.rect, m_font);
     if (index.column() == TranscriptionTableModel::LineNumberColumn) {
         painter->setPen(m_numberColor);
-        painter->drawText(option.rect.translated(0, -kNumberRaise), Qt::AlignCenter, text);
+        origin.setX(option.rect.left() +
+                    (option.rect.width() - QFontMetrics(m_font).horizontalAdvance(text)) / 2);
+        painter->drawText(origin, text);
     } else {
         painter->setPen(m_textColor);
-        const QRect area = option.rect.adjusted(CustomTextField::kTextInset, 0, 0, 0);
-        painter->setClipRect(option.rect);
-        painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+        painter->drawText(origin, shownText(index.row(), text, option.rect));
     }
     painter->restore();
+}
+
+bool TranscriptionTableCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                               const QStyleOptionViewItem& option,
+                                               const QModelIndex& index)
+{
+    if (event && view && event->type() == QEvent::ToolTip && index.column() == kText) {
+        // A row cut short shows its whole text.
+        const QString text = index.data(Qt::DisplayRole).toString();
+        if (shownText(index.row(), text, option.rect) != text) {
+            QToolTip::showText(event->globalPos(), text, view->viewport(), option.rect);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
 }
 
 QWidget* TranscriptionTableCellDelegate::createEditor(QWidget* parent,
                                                       const QStyleOptionViewItem& /*option*/,
                                                       const QModelIndex& index) const
 {
-    if (index.column() != TranscriptionTableModel::TranscriptionColumn)
+    if (index.column() != kText)
         return nullptr;
     auto* field = new CustomTextField(parent);
     field->setObjectName(QStringLiteral("TranscriptionInput"));

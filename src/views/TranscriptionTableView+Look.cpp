@@ -9,6 +9,7 @@
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/PreferenceKeys.h"
+#include "views/ColorContrast.h"
 #include "views/CustomTableHeaderView.h"
 #include "views/CustomTextField.h"
 #include "views/TranscriptionTableCellDelegate.h"
@@ -85,8 +86,14 @@ void TranscriptionTableView::observeNotifications()
             setShowLineNumbers(n.object.toBool());
     });
     m_center.addObserver(Notifications::MouseDownSelectSegment, this, [this](const Note& n) {
-        if (isNumber(n.object))
-            setCurrentSegment(n.object.toLongLong());
+        if (!isNumber(n.object))
+            return;
+        const qint64 index = n.object.toLongLong();
+        if (index < 0 || index >= rowCount())
+            return;
+        setCurrentSegment(index);
+        // A click in the strip picks the row to type in: the keys go there.
+        focusEditor(int(index));
     });
 }
 
@@ -148,6 +155,10 @@ void TranscriptionTableView::applyBackgroundColor()
         pal.setColor(role, m_tableBackgroundColor);
     setPalette(pal);
     m_cellDelegate->setNumberColor(complementaryColorFor(m_tableBackgroundColor));
+    // The current row's mark: the edited row's field colour or black,
+    // whichever stands out more on the table.
+    m_cellDelegate->setMarkColor(ColorContrast::bestOn(
+        m_tableBackgroundColor, {CustomTextField::fieldColor(), QColor(Qt::black)}));
     viewport()->update();
 }
 

@@ -163,22 +163,27 @@ void TranscriptionTableView::moveEditorToRow(int row)
     if (m_editor && m_editorRow == row)
         return;
     const bool hadFocus = m_editor && m_editor->hasFocus();
-    if (m_editorRow >= 0 && m_editorRow < rowCount())
+    if (m_editorRow >= 0 && m_editorRow < rowCount()) {
         closePersistentEditor(m_model->index(m_editorRow, kText));
+        update(m_model->index(m_editorRow, TranscriptionTableModel::LineNumberColumn));
+    }
     m_editor = nullptr;
     m_editorRow = -1;
+    m_cellDelegate->setCurrentRow(-1);
     if (row < 0 || row >= rowCount())
         return;
     const QModelIndex index = m_model->index(row, kText);
+    m_cellDelegate->setCurrentRow(row);
     openPersistentEditor(index);
+    update(m_model->index(row, TranscriptionTableModel::LineNumberColumn));
     m_editor = qobject_cast<CustomTextField*>(indexWidget(index));
     m_editorRow = row;
     if (!m_editor)
         return;
-    // The view selects a new editor's whole text; the row should read as the
-    // painted rows do, from its start.
+    // The view selects a new editor's whole text; entering a row puts the
+    // caret after what is there instead, so typing goes on from its end.
     m_editor->deselect();
-    m_editor->setCursorPosition(0);
+    m_editor->end(false);
     connect(m_editor, &CustomTextField::editingBegan, this,
             [this, row] { m_currentEditingRow = row; });
     // The learner keeps typing in whichever row became current.

@@ -11,6 +11,7 @@
 #include "support/TestSupport.h"
 #include "transcript/LrcLine.h"
 #include "views/TranscriptionTableView.h"
+#include "views/WaveformView.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -92,6 +93,32 @@ TEST_F(SessionKeys, ArrowsStepThroughSegmentsFromTheRowBeingTyped)
     EXPECT_EQ(current(), 0);
     // The row got none of these keys as text.
     EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
+}
+
+TEST_F(SessionKeys, ARowEnteredByArrowOrByAClickInTheStripTakesTheKeysAfterItsText)
+{
+    QTest::keyClicks(QApplication::focusWidget(), "ab");
+    press(Qt::Key_Down);
+    ASSERT_TRUE(focusInRow(1));
+    QTest::keyClicks(QApplication::focusWidget(), "one");
+    press(Qt::Key_Up);
+    ASSERT_TRUE(focusInRow(0));
+    QTest::keyClicks(QApplication::focusWidget(), "c");
+    EXPECT_EQ(table->mutableTranscriptions().value(0), "abc") << "typed after what was there";
+
+    // A click in the waveform strip selects a segment, and its row takes the keys.
+    WaveformView* strip = h.session().waveformView();
+    const QPoint inSegment1(int(strip->pixelsPerSecond() * h.engine().segments()[1].start) + 3,
+                            strip->height() / 2);
+    QTest::mouseClick(strip, Qt::LeftButton, {}, inSegment1);
+    EXPECT_EQ(current(), 1);
+    ASSERT_TRUE(focusInRow(1));
+    QTest::keyClicks(QApplication::focusWidget(), "!");
+    // Clicked again where it is already selected: the keys stay with the row.
+    QTest::mouseClick(strip, Qt::LeftButton, {}, inSegment1);
+    EXPECT_TRUE(focusInRow(1));
+    QTest::keyClicks(QApplication::focusWidget(), "?");
+    EXPECT_EQ(table->mutableTranscriptions().value(1), "one!?");
 }
 
 TEST_F(SessionKeys, ReturnPausesAndResumesAndControlRTogglesRepeat)

@@ -1,17 +1,20 @@
 #pragma once
 
 // A shown dictation table over a real engine, a fresh defaults store with the
-// registered look, and a private notification centre.
+// registered look (its font set to a named monospace family, so that what is
+// drawn does not depend on the machine's fixed-width font), and a private
+// notification centre.
 
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
 #include "views/TranscriptionTableView.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QImage>
 #include <QList>
@@ -25,19 +28,34 @@ struct RecordingTableDelegate : TranscriptionTableDelegate
     void didSelectSegmentAtIndex(qint64 index) override { heard.append(index); }
 };
 
+// The two monospace families that scripts/install-deps installs; tests that
+// judge drawn text run with each, as their metrics round differently.
+inline const char* const kMonospaceFamilies[] = {"DejaVu Sans Mono", "Noto Sans Mono"};
+
 class TranscriptionTableFixture : public ::testing::Test
 {
 protected:
-    static void SetUpTestSuite()
+    void SetUp() override
     {
-        // As the application does at start-up: the registered "Menlo" is
-        // drawn with the system's fixed-width font. The resolved family, not
-        // the generic "monospace", which a substitution does not resolve.
-        const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        QFont::insertSubstitution(QStringLiteral("Menlo"), QFontInfo(fixed).family());
+        regDefaultPreference(defaults.store());
+        useFont(kMonospaceFamilies[0]);
     }
 
-    void SetUp() override { regDefaultPreference(defaults.store()); }
+    // A dictation font of an installed family, at the default's 20 points.
+    static QFont monospaceFont(const QString& family, qreal points = 20.0)
+    {
+        QFont font(family);
+        font.setPointSizeF(points);
+        EXPECT_EQ(QFontInfo(font).family(), family) << "not installed? see scripts/install-deps";
+        return font;
+    }
+
+    // Stores the dictation font the next table is made with.
+    void useFont(const QString& family, qreal points = 20.0)
+    {
+        ObjectStorage(defaults.store())
+            .setFont(monospaceFont(family, points), PreferenceKeys::DictationTextFont);
+    }
 
     TranscriptionTableView& makeTable(QSize size = {640, 400})
     {

@@ -32,7 +32,7 @@ TEST_F(TranscriptionTableSelection, LoadingSelectsRowZeroOnTheNextTurnAndFocuses
     EXPECT_TRUE(table->isDictationEditor(editor));
     EXPECT_FALSE(table->isDictationEditor(table.get()));
     EXPECT_EQ(editor->text(), "bonjour");
-    EXPECT_EQ(editor->cursorPosition(), 0) << "the caret starts at the beginning";
+    EXPECT_EQ(editor->cursorPosition(), 7) << "the caret goes after the row's text";
     EXPECT_FALSE(editor->hasSelectedText());
     EXPECT_EQ(table->editorForRow(2), nullptr) << "only the current row has a live editor";
     EXPECT_EQ(table->mutableTranscriptions(), (QStringList{"bonjour", "", "au revoir"}));
@@ -77,18 +77,24 @@ TEST_F(TranscriptionTableSelection, SelectionChangesAreReportedAndClearingReport
     EXPECT_EQ(delegate.heard, QList<qint64>{1});
 }
 
-TEST_F(TranscriptionTableSelection, WaveformClickSelectsAndScrollsToTheSegment)
+TEST_F(TranscriptionTableSelection, WaveformClickSelectsScrollsToAndTypesInTheSegment)
 {
     makeTable({500, 160});
     load(QStringList(40, "words"));
     delegate.heard.clear();
+    table->setFocus(); // the keyboard elsewhere, as after a click in the strip
     center.post(Notifications::MouseDownSelectSegment, qint64(25));
     TestSupport::processEvents();
     EXPECT_TRUE(table->selectionModel()->isRowSelected(25, {}));
     EXPECT_EQ(delegate.heard, QList<qint64>{25});
     EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->model()->index(25, 1))))
         << "scrolled into view";
-    EXPECT_TRUE(table->editorForRow(25));
+    auto* editor = qobject_cast<QLineEdit*>(table->editorForRow(25));
+    ASSERT_TRUE(editor);
+    EXPECT_EQ(QApplication::focusWidget(), editor) << "the keys go to the row it selected";
+    EXPECT_EQ(editor->cursorPosition(), 5);
+    QTest::keyClicks(QApplication::focusWidget(), "!");
+    EXPECT_EQ(table->mutableTranscriptions()[25], "words!");
 
     center.post(Notifications::MouseDownSelectSegment, qint64(5));
     EXPECT_EQ(delegate.heard, (QList<qint64>{25, 5}));
@@ -113,7 +119,8 @@ TEST_F(TranscriptionTableSelection, AClickAnywhereInARowPutsTheCaretInItsEditor)
     auto* editor = qobject_cast<QLineEdit*>(table->editorForRow(2));
     ASSERT_TRUE(editor);
     EXPECT_EQ(QApplication::focusWidget(), editor) << "a click on the number column";
-    EXPECT_EQ(editor->cursorPosition(), 0);
+    EXPECT_EQ(editor->cursorPosition(), 5) << "after the row's text";
+    EXPECT_FALSE(editor->hasSelectedText());
     EXPECT_EQ(table->currentEditingRow(), 2);
     EXPECT_EQ(delegate.heard, QList<qint64>{2});
     EXPECT_EQ(table->editorForRow(0), nullptr);

@@ -76,7 +76,7 @@ TEST_F(TranscriptionTableTyping, ReturnTabBacktabAndEscapeDoNothingInARow)
     EXPECT_EQ(table->mutableTranscriptions()[0], "abXcd") << "typing goes on where it was";
 }
 
-TEST_F(TranscriptionTableTyping, TextTypedInARowSurvivesMovingToAnotherRow)
+TEST_F(TranscriptionTableTyping, TextTypedInARowSurvivesMovingToAnotherRowAndGoesOnAtItsEnd)
 {
     makeTable();
     load({"", "", ""});
@@ -87,6 +87,13 @@ TEST_F(TranscriptionTableTyping, TextTypedInARowSurvivesMovingToAnotherRow)
     table->setCurrentSegment(0);
     EXPECT_EQ(editor(0)->text(), "zero");
     EXPECT_EQ(table->mutableTranscriptions(), (QStringList{"zero", "one", ""}));
+    // Back in a row, typing goes on after what is there, from any road in.
+    QTest::keyClicks(QApplication::focusWidget(), " more");
+    table->setFocus();
+    editor(0)->setFocus(Qt::TabFocusReason); // would select the whole text
+    EXPECT_FALSE(editor(0)->hasSelectedText());
+    QTest::keyClicks(QApplication::focusWidget(), "!");
+    EXPECT_EQ(table->mutableTranscriptions()[0], "zero more!");
 }
 
 TEST_F(TranscriptionTableTyping, TranscriptLineStampsTheSegmentStartTruncated)
