@@ -26,6 +26,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 // The natural heights of the waveform strip and the status bar.
@@ -229,19 +230,20 @@ void ViewController::showWaveViewHidden(bool hidden, bool animated)
 QRect ViewController::frameKeepingCentre(const QRect& old, const QSize& size,
                                         const QRect& visible)
 {
-    QPoint origin(old.x() - (size.width() - old.width()) / 2,
-                  old.y() - (size.height() - old.height()) / 2);
-    // Kept on the screen's visible area where it fits; the size is never reduced.
+    // Never larger than the visible area: a window taller than the screen
+    // hides its strip and status bar below the edge.
+    const QSize fitted = visible.isEmpty() ? size : size.boundedTo(visible.size());
+    QPoint origin(old.x() - (fitted.width() - old.width()) / 2,
+                  old.y() - (fitted.height() - old.height()) / 2);
+    // Then moved onto the visible area where the centre would take it off.
     auto keep = [](int start, int length, int visibleStart, int visibleLength) {
-        if (start < visibleStart)
-            return visibleStart;
         if (start + length > visibleStart + visibleLength)
-            return visibleStart + visibleLength - length;
-        return start;
+            start = visibleStart + visibleLength - length;
+        return std::max(start, visibleStart);
     };
-    origin.setX(keep(origin.x(), size.width(), visible.x(), visible.width()));
-    origin.setY(keep(origin.y(), size.height(), visible.y(), visible.height()));
-    return QRect(origin, size);
+    origin.setX(keep(origin.x(), fitted.width(), visible.x(), visible.width()));
+    origin.setY(keep(origin.y(), fitted.height(), visible.y(), visible.height()));
+    return QRect(origin, fitted);
 }
 
 void ViewController::resizeWindowToWidth(int width, int height)
@@ -250,10 +252,17 @@ void ViewController::resizeWindowToWidth(int width, int height)
     if (!window || window == this)
         return;
     QScreen* screen = window->screen();
-    const QRect frame = frameKeepingCentre(window->geometry(), QSize(width, height),
-                                           screen ? screen->availableGeometry() : QRect());
-    window->resize(frame.size());
-    window->move(frame.topLeft());
+    QRect visible = screen ? screen->availableGeometry() : QRect();
+    // The window manager's frame around the window takes room too.
+    const QRect inner = window->geometry();
+    const QRect outer = window->frameGeometry();
+    const QMargins frame(inner.left() - outer.left(), inner.top() - outer.top(),
+                         outer.right() - inner.right(), outer.bottom() - inner.bottom());
+    if (!visible.isEmpty())
+        visible = visible.marginsRemoved(frame);
+    const QRect placed = frameKeepingCentre(inner, QSize(width, height), visible);
+    window->resize(placed.size());
+    window->move(placed.topLeft() - QPoint(frame.left(), frame.top()));
 }
 
 void ViewController::updateToolbarItemImagName(const QString& identifier, const QString& imageName)

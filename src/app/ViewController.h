@@ -42,8 +42,9 @@ public:
     void showStatusBarHidden(bool hidden, bool animated);
     void showWaveViewHidden(bool hidden, bool animated);
     void resizeWindowToWidth(int width, int height);
-    // Where a window of the new size goes: the same centre, kept on the
-    // visible area (an empty one when there is no screen).
+    // Where a window of the new size goes: no larger than the visible area,
+    // the same centre, kept on that area (an empty one when there is no
+    // screen, and then the size is kept).
     static QRect frameKeepingCentre(const QRect& old, const QSize& size, const QRect& visible);
     void updateToolbarItemImagName(const QString& identifier, const QString& imageName);
 
