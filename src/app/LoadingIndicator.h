@@ -5,7 +5,10 @@
 class QTimer;
 
 // The spinner shown while a file is analysed, with the fraction done beneath
-// it once the engine reports one. It is centred in its parent when shown.
+// it once the engine reports one. It stands on a rounded plate whose colours
+// are chosen against the background it is shown over (the table colour the
+// learner picked), so both read on any of them. It keeps itself centred in
+// its parent.
 class LoadingIndicator : public QWidget
 {
     Q_OBJECT
@@ -20,12 +23,20 @@ public:
     void setFraction(double fraction);
     double fraction() const { return m_fraction; }
 
+    // The plate's colour and the spinner's and percentage's ink over a
+    // background of the given colour.
+    static QColor plateColorOver(const QColor& background);
+    static QColor inkColorOver(const QColor& background);
+
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void centreInParent();
+
     QTimer* m_timer;
     int m_phase = 0;
     double m_fraction = -1.0;

@@ -126,6 +126,7 @@ void ViewController::showAnalysisProgress()
 
 void ViewController::showLoadingIndicator()
 {
+    setLessonContentHidden(true);
     m_loadingIndicator->resize(m_loadingIndicator->sizeHint());
     m_loadingIndicator->move((width() - m_loadingIndicator->width()) / 2,
                              (height() - m_loadingIndicator->height()) / 2);
@@ -139,6 +140,7 @@ void ViewController::hideLoadingIndicator()
 {
     m_loadingIndicator->stopAnimation();
     m_loadingIndicator->hide();
+    setLessonContentHidden(false);
 }
 
 const QStringList& ViewController::audioFileExtensions()

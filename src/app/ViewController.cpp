@@ -227,6 +227,31 @@ void ViewController::showWaveViewHidden(bool hidden, bool animated)
     animateHeight(m_waveformContainer, m_waveformOpacity, m_heightWaveView, hidden, animated);
 }
 
+void ViewController::setLessonContentHidden(bool hidden)
+{
+    QWidget* rows = m_table->viewport();
+    QWidget* strip = m_waveformScrollArea->viewport();
+    if (hidden == rows->isHidden())
+        return;
+    if (hidden) {
+        // The row being typed in goes out of sight; the keys go to the
+        // window meanwhile rather than to whatever Qt would pick next.
+        QWidget* focus = window()->focusWidget();
+        m_focusBeforeLoading = focus;
+        if (focus && (rows->isAncestorOf(focus) || strip->isAncestorOf(focus)))
+            setFocus(Qt::OtherFocusReason);
+        rows->hide();
+        strip->hide();
+        return;
+    }
+    rows->show();
+    strip->show();
+    QWidget* before = m_focusBeforeLoading.data();
+    m_focusBeforeLoading.clear();
+    if (before && before->isVisible() && window()->focusWidget() == this)
+        before->setFocus(Qt::OtherFocusReason);
+}
+
 QRect ViewController::frameKeepingCentre(const QRect& old, const QSize& size,
                                         const QRect& visible)
 {

@@ -138,6 +138,9 @@ private:
     void showUIElement();
     void animateHeight(QWidget* area, QGraphicsOpacityEffect* effect, int height, bool hidden,
                        bool animated);
+    // While a lesson is analysed the rows and the strip it replaces are
+    // hidden, not cleared: they come back as they were if the open fails.
+    void setLessonContentHidden(bool hidden);
     void finishOpening(bool success, const QString& path);
     void startLoad(const QString& path);
     void showAnalysisProgress();
@@ -163,6 +166,7 @@ private:
     QLabel* m_statusBarLabel = nullptr;
     QLabel* m_timeLabel = nullptr;
     LoadingIndicator* m_loadingIndicator = nullptr;
+    QPointer<QWidget> m_focusBeforeLoading; // given back when the content returns
     QGraphicsOpacityEffect* m_waveformOpacity = nullptr;
     QGraphicsOpacityEffect* m_statusBarOpacity = nullptr;
     QPointer<QParallelAnimationGroup> m_waveAnimation;
