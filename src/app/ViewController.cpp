@@ -1,5 +1,7 @@
 #include "app/ViewController.h"
 
+#include "app/AudioFileDrop.h"
+#include "app/EmptyWindowHint.h"
 #include "app/IconManager.h"
 #include "app/KeyDownMonitor.h"
 #include "app/LoadingIndicator.h"
@@ -52,6 +54,10 @@ ViewController::ViewController(const SessionServices& services, QWidget* parent)
     listenNotifications();
     // Key presses anywhere in the window reach the six shortcuts first.
     new KeyDownMonitor(*this, m_defaults, this);
+    // A recording dropped anywhere on the window opens as one given on the
+    // command line would.
+    auto openDropped = [this](const QString& path) { openFileFromPath(path); };
+    new AudioFileDrop(*window(), audioFileExtensions(), openDropped, this);
     setupStatusBar();
     setupConstraints();
     showUIElement();
@@ -68,6 +74,7 @@ void ViewController::buildViews()
 {
     m_table = new TranscriptionTableView(m_engine, m_center, m_defaults, this);
     m_table->setAccessibleName(LocalizedString(Texts::Dictation));
+    new EmptyWindowHint(*m_table);
 
     m_waveformContainer = new QWidget(this);
     m_waveformScrollArea = new QScrollArea(m_waveformContainer);

@@ -1,6 +1,8 @@
-// What the main window shows while a lesson is being analysed. Judged
-// offscreen by the pixels of the window's picture.
+// What the main window shows when it has no lesson, while a lesson is being
+// analysed, and what it does with a recording dropped on it. Judged offscreen
+// by the pixels of the window's picture.
 
+#include "app/EmptyWindowHint.h"
 #include "app/LoadingIndicator.h"
 #include "app/MainWindowController.h"
 #include "app/ViewController.h"
@@ -13,6 +15,12 @@
 #include "views/WaveformView.h"
 
 #include <QApplication>
+#include <QDropEvent>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
@@ -66,6 +74,18 @@ int count(const QImage& image, const QRect& area, const std::function<bool(QColo
     return n;
 }
 
+// The smallest rectangle holding every matching pixel of the area.
+QRect bounds(const QImage& image, const QRect& area, const std::function<bool(QColor)>& match)
+{
+    QRect found;
+    const QRect r = area.intersected(image.rect());
+    for (int y = r.top(); y <= r.bottom(); ++y)
+        for (int x = r.left(); x <= r.right(); ++x)
+            if (match(image.pixelColor(x, y)))
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
 const QColor kNavy(18, 63, 124);
 const QColor kDictationYellow(228, 223, 78);
 
@@ -74,7 +94,68 @@ bool isWaveformGreen(const QColor& c)
     return c.green() > 120 && c.green() - c.red() > 60 && c.green() - c.blue() > 40;
 }
 
+// Sends a drag over `target` and then drops it there, as a file manager does.
+// Returns whether the enter was accepted and with which action.
+std::pair<bool, Qt::DropAction> dragAndDrop(QWidget* target, const QMimeData& data)
+{
+    const QPointF at(target->width() / 2.0, target->height() / 2.0);
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    QDragEnterEvent enter(at.toPoint(), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    if (!enter.isAccepted())
+        return {false, Qt::IgnoreAction};
+    QDropEvent drop(at, offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    return {drop.isAccepted(), drop.dropAction()};
+}
+
+QMimeData* filesMime(const QStringList& paths)
+{
+    auto* data = new QMimeData;
+    QList<QUrl> urls;
+    for (const QString& path : paths)
+        urls << (path.contains(QStringLiteral("://")) ? QUrl(path) : QUrl::fromLocalFile(path));
+    data->setUrls(urls);
+    // File managers offer the paths as text too; a row must not take them.
+    data->setText(paths.join(u'\n'));
+    return data;
+}
+
 } // namespace
+
+TEST(EmptyWindow, ShowsACentredHintLegibleOnTheTableColourUntilALessonOpens)
+{
+    WindowHarness h;
+    auto* hint = h.window().findChild<QLabel*>(QStringLiteral("emptyWindowHint"));
+    ASSERT_NE(hint, nullptr);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text(), "Open a recording with Ctrl+O or drop it here");
+    // As the learner sees it; the probes below use a font of their own.
+    const QImage shot = h.screenshot(QStringLiteral("empty-window"));
+    ASSERT_FALSE(shot.isNull());
+    hint->setFont(QFont(QStringLiteral("DejaVu Sans Mono"), 15));
+    QWidget* rows = h.session().transcriptionTableView()->viewport();
+    const QRect area = inWindow(h, rows);
+    const QImage image = picture(h);
+    // Light ink on the navy table, centred both ways in the rows' area.
+    auto isInk = [](const QColor& c) { return c.lightness() > 200; };
+    const QRect ink = bounds(image, area, isInk);
+    ASSERT_TRUE(ink.isValid());
+    EXPECT_GT(count(image, area, isInk), 150);
+    EXPECT_NEAR(ink.center().x(), area.center().x(), 3);
+    EXPECT_NEAR(ink.center().y(), area.center().y(), 3);
+    EXPECT_LT(ink.height(), 40) << "one line at this width";
+    EXPECT_GE(contrast(EmptyWindowHint::inkColorOver(kNavy), kNavy), 7.0);
+    // On a light table the ink turns dark.
+    const QColor cream(250, 240, 200);
+    h.center().post(Notifications::TableBackgroundColorDidChange, cream);
+    EXPECT_GE(contrast(EmptyWindowHint::inkColorOver(cream), cream), 7.0);
+    EXPECT_GT(count(picture(h), area, [](const QColor& c) { return c.lightness() < 90; }), 150);
+
+    // A lesson's rows replace it.
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    EXPECT_FALSE(hint->isVisible());
+}
 
 TEST(LoadingWindow, HidesThePreviousRowsBehindASpinnerThatReadsOnAnyTableColour)
 {
@@ -171,4 +252,62 @@ TEST(LoadingWindow, ARefusedFileBringsThePreviousRowsBack)
     EXPECT_EQ(table->model()->rowCount(), rows);
     EXPECT_EQ(table->mutableTranscriptions().value(1), "Good morning");
     EXPECT_TRUE(h.session().waveformView()->isVisible());
+}
+
+TEST(DroppedFile, AnAudioFileOpensThroughTheDirectRoadOtherDropsAreLeftAlone)
+{
+    WindowHarness h;
+    QApplication::setActiveWindow(&h.window());
+    bool finished = false;
+    h.session().setOpeningFinishedHandler([&](bool) { finished = true; });
+
+    // Not taken: other kinds of file, several files with no recording among
+    // them, a remote recording, nothing but text.
+    for (const QStringList& paths :
+         {QStringList{fixture("cover.png")}, QStringList{fixture("cover.png"), fixture("text.txt")},
+          QStringList{QStringLiteral("https://example.com/lesson.mp3")}}) {
+        SCOPED_TRACE(paths.join(' ').toStdString());
+        std::unique_ptr<QMimeData> data(filesMime(paths));
+        EXPECT_FALSE(dragAndDrop(&h.window(), *data).first);
+    }
+    QMimeData text;
+    text.setText(fixture("speech.wav"));
+    EXPECT_FALSE(dragAndDrop(&h.window(), text).first);
+    QApplication::processEvents();
+    EXPECT_FALSE(finished);
+    EXPECT_TRUE(h.session().currentAudioPath().isEmpty());
+
+    // A recording dropped on the empty window, with its extension in any case,
+    // after a file that is not one: taken as a copy and opened.
+    std::unique_ptr<QMimeData> data(filesMime({fixture("cover.png"), fixture("speech.wav")}));
+    const auto [taken, action] = dragAndDrop(&h.window(), *data);
+    EXPECT_TRUE(taken);
+    EXPECT_EQ(action, Qt::CopyAction) << "the file is never moved";
+    ASSERT_TRUE(waitFor([&] { return finished; }, 60000));
+    EXPECT_EQ(h.session().currentAudioPath(), fixture("speech.wav"));
+    EXPECT_EQ(h.window().windowTitle(), "speech");
+    EXPECT_GT(h.session().transcriptionTableView()->model()->rowCount(), 1);
+
+    // On an open lesson, right onto the row being typed in: the row keeps its
+    // text and the new recording opens.
+    TranscriptionTableView* table = h.session().transcriptionTableView();
+    auto* editor = qobject_cast<QLineEdit*>(table->editorForRow(0));
+    ASSERT_NE(editor, nullptr);
+    finished = false;
+    // A recording under an upper-case extension.
+    QFile::copy(fixture("speech.flac"), h.documentsPath() + "/Lesson.FLAC");
+    data.reset(filesMime({h.documentsPath() + "/Lesson.FLAC"}));
+    EXPECT_TRUE(dragAndDrop(editor, *data).first);
+    EXPECT_TRUE(table->mutableTranscriptions().value(0).isEmpty());
+    ASSERT_TRUE(waitFor([&] { return finished; }, 60000));
+    EXPECT_EQ(h.window().windowTitle(), "Lesson");
+    h.session().setOpeningFinishedHandler({});
+
+    // Text dropped on a row is still the row's.
+    ASSERT_TRUE(waitFor([&] { return table->editorForRow(0) != nullptr; }));
+    editor = qobject_cast<QLineEdit*>(table->editorForRow(0));
+    QMimeData words;
+    words.setText(QStringLiteral("Hello"));
+    EXPECT_TRUE(dragAndDrop(editor, words).first);
+    EXPECT_EQ(editor->text(), "Hello");
 }

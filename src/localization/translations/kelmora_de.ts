@@ -503,5 +503,9 @@ Versionshinweise:
         <source>Choose the dictation font</source>
         <translation>Schrift des Diktats wählen</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Öffnen Sie eine Aufnahme mit %@ oder ziehen Sie sie hierher</translation>
+    </message>
 </context>
 </TS>

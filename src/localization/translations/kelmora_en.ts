@@ -503,5 +503,9 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>Choose the dictation font</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Open a recording with %@ or drop it here</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,9 @@ Notas de la versión:
         <source>Choose the dictation font</source>
         <translation>Elegir la fuente del dictado</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Abra una grabación con %@ o suéltela aquí</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,9 @@ Notes de version :
         <source>Choose the dictation font</source>
         <translation>Choisir la police de la dictée</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Ouvrez un enregistrement avec %@ ou déposez-le ici</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,9 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>ディクテーションのフォントを選択</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>%@ で録音を開くか、ここにドロップしてください</translation>
+    </message>
 </context>
 </TS>

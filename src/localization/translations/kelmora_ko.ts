@@ -503,5 +503,9 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>받아쓰기 글꼴 선택</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>%@ 키로 녹음을 열거나 여기에 끌어다 놓으세요</translation>
+    </message>
 </context>
 </TS>

@@ -503,5 +503,9 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>Выбрать шрифт диктанта</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Откройте запись клавишами %@ или перетащите её сюда</translation>
+    </message>
 </context>
 </TS>

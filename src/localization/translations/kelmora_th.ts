@@ -503,5 +503,9 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>เลือกแบบอักษรของการเขียนตามคำบอก</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>เปิดไฟล์เสียงที่บันทึกไว้ด้วย %@ หรือลากมาวางที่นี่</translation>
+    </message>
 </context>
 </TS>

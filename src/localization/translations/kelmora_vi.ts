@@ -503,5 +503,9 @@ Ghi chú phát hành:
         <source>Choose the dictation font</source>
         <translation>Chọn phông chữ cho bài chính tả</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Mở một bản ghi âm bằng %@ hoặc thả tệp vào đây</translation>
+    </message>
 </context>
 </TS>

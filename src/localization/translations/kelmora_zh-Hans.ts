@@ -503,5 +503,9 @@ Release Notes:
         <source>Choose the dictation font</source>
         <translation>选择听写字体</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>按 %@ 打开录音，或将其拖放到此处</translation>
+    </message>
 </context>
 </TS>
