@@ -1,5 +1,6 @@
 #include "app/EmptyWindowHint.h"
 
+#include "app/ContrastingInk.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 
@@ -36,8 +37,8 @@ EmptyWindowHint::EmptyWindowHint(QAbstractItemView& table)
 
 QColor EmptyWindowHint::inkColorOver(const QColor& background)
 {
-    // Light on dark colours, dark on light ones, a little softer than the rows' text.
-    return background.toRgb().lightnessF() < 0.5 ? QColor(236, 236, 236) : QColor(48, 48, 48);
+    // White on dark colours, black on light ones: at least 4.5:1 on any colour.
+    return needsLightInk(background) ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 void EmptyWindowHint::followRows()

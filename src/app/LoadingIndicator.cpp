@@ -1,5 +1,6 @@
 #include "app/LoadingIndicator.h"
 
+#include "app/ContrastingInk.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 
@@ -14,19 +15,17 @@ constexpr int kSpinnerSize = 48;
 constexpr int kSpokes = 12;
 constexpr double kPlateRadius = 10.0;
 
-// WCAG relative luminance of an sRGB colour.
-double luminance(const QColor& colour)
+// A plate that stands out from the background: light on a dark one, dark on
+// a light one; and the ink that reads on that plate.
+QColor plateColorOver(const QColor& background)
 {
-    auto linear = [](double c) {
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    const QColor rgb = colour.toRgb();
-    return 0.2126 * linear(rgb.redF()) + 0.7152 * linear(rgb.greenF()) +
-           0.0722 * linear(rgb.blueF());
+    return needsLightInk(background) ? QColor(245, 245, 245) : QColor(38, 38, 38);
 }
 
-// Below this luminance white contrasts more with a colour than black does.
-constexpr double kDarkBelow = 0.179;
+QColor inkColorOver(const QColor& background)
+{
+    return needsLightInk(background) ? QColor(30, 30, 30) : QColor(240, 240, 240);
+}
 } // namespace
 
 LoadingIndicator::LoadingIndicator(QWidget* parent) : QWidget(parent), m_timer(new QTimer(this))
@@ -71,16 +70,6 @@ void LoadingIndicator::setFraction(double fraction)
         fraction < 0.0 ? QString() : QStringLiteral(" %1%").arg(qRound(fraction * 100.0));
     setAccessibleDescription(LocalizedString(Texts::AnalysingAudio) + done);
     update();
-}
-
-QColor LoadingIndicator::plateColorOver(const QColor& background)
-{
-    return luminance(background) < kDarkBelow ? QColor(245, 245, 245) : QColor(38, 38, 38);
-}
-
-QColor LoadingIndicator::inkColorOver(const QColor& background)
-{
-    return luminance(background) < kDarkBelow ? QColor(30, 30, 30) : QColor(240, 240, 240);
 }
 
 void LoadingIndicator::centreInParent()

@@ -23,11 +23,6 @@ public:
     void setFraction(double fraction);
     double fraction() const { return m_fraction; }
 
-    // The plate's colour and the spinner's and percentage's ink over a
-    // background of the given colour.
-    static QColor plateColorOver(const QColor& background);
-    static QColor inkColorOver(const QColor& background);
-
     QSize sizeHint() const override;
 
 protected:
