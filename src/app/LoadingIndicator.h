@@ -5,7 +5,10 @@
 class QTimer;
 
 // The spinner shown while a file is analysed, with the fraction done beneath
-// it once the engine reports one. It is centred in its parent when shown.
+// it once the engine reports one. It stands on a rounded plate whose colours
+// are chosen against the background it is shown over (the table colour the
+// learner picked), so both read on any of them. It keeps itself centred in
+// its parent.
 class LoadingIndicator : public QWidget
 {
     Q_OBJECT
@@ -24,8 +27,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void centreInParent();
+
     QTimer* m_timer;
     int m_phase = 0;
     double m_fraction = -1.0;

@@ -144,6 +144,7 @@ void ViewController::showAnalysisProgress()
 
 void ViewController::showLoadingIndicator()
 {
+    setLessonContentHidden(true);
     m_loadingIndicator->resize(m_loadingIndicator->sizeHint());
     m_loadingIndicator->move((width() - m_loadingIndicator->width()) / 2,
                              (height() - m_loadingIndicator->height()) / 2);
@@ -157,6 +158,7 @@ void ViewController::hideLoadingIndicator()
 {
     m_loadingIndicator->stopAnimation();
     m_loadingIndicator->hide();
+    setLessonContentHidden(false);
 }
 
 const QStringList& ViewController::audioFileExtensions()

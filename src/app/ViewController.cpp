@@ -1,5 +1,7 @@
 #include "app/ViewController.h"
 
+#include "app/AudioFileDrop.h"
+#include "app/EmptyWindowHint.h"
 #include "app/IconManager.h"
 #include "app/KeyDownMonitor.h"
 #include "app/LoadingIndicator.h"
@@ -26,6 +28,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 // The natural heights of the waveform strip and the status bar.
@@ -51,6 +54,10 @@ ViewController::ViewController(const SessionServices& services, QWidget* parent)
     listenNotifications();
     // Key presses anywhere in the window reach the six shortcuts first.
     new KeyDownMonitor(*this, m_defaults, this);
+    // A recording dropped anywhere on the window opens as one given on the
+    // command line would.
+    auto openDropped = [this](const QString& path) { openFileFromPath(path); };
+    new AudioFileDrop(*window(), audioFileExtensions(), openDropped, this);
     setupStatusBar();
     setupConstraints();
     showUIElement();
@@ -67,6 +74,7 @@ void ViewController::buildViews()
 {
     m_table = new TranscriptionTableView(m_engine, m_center, m_defaults, this);
     m_table->setAccessibleName(LocalizedString(Texts::Dictation));
+    new EmptyWindowHint(*m_table);
 
     m_waveformContainer = new QWidget(this);
     m_waveformScrollArea = new QScrollArea(m_waveformContainer);
@@ -229,22 +237,48 @@ void ViewController::showWaveViewHidden(bool hidden, bool animated)
     animateHeight(m_waveformContainer, m_waveformOpacity, m_heightWaveView, hidden, animated);
 }
 
+void ViewController::setLessonContentHidden(bool hidden)
+{
+    QWidget* rows = m_table->viewport();
+    QWidget* strip = m_waveformScrollArea->viewport();
+    if (hidden == rows->isHidden())
+        return;
+    if (hidden) {
+        // The row being typed in goes out of sight; the keys go to the
+        // window meanwhile rather than to whatever Qt would pick next.
+        QWidget* focus = window()->focusWidget();
+        m_focusBeforeLoading = focus;
+        if (focus && (rows->isAncestorOf(focus) || strip->isAncestorOf(focus)))
+            setFocus(Qt::OtherFocusReason);
+        rows->hide();
+        strip->hide();
+        return;
+    }
+    rows->show();
+    strip->show();
+    QWidget* before = m_focusBeforeLoading.data();
+    m_focusBeforeLoading.clear();
+    if (before && before->isVisible() && window()->focusWidget() == this)
+        before->setFocus(Qt::OtherFocusReason);
+}
+
 QRect ViewController::frameKeepingCentre(const QRect& old, const QSize& size,
                                         const QRect& visible)
 {
-    QPoint origin(old.x() - (size.width() - old.width()) / 2,
-                  old.y() - (size.height() - old.height()) / 2);
-    // Kept on the screen's visible area where it fits; the size is never reduced.
+    // Never larger than the visible area: a window taller than the screen
+    // hides its strip and status bar below the edge.
+    const QSize fitted = visible.isEmpty() ? size : size.boundedTo(visible.size());
+    QPoint origin(old.x() - (fitted.width() - old.width()) / 2,
+                  old.y() - (fitted.height() - old.height()) / 2);
+    // Then moved onto the visible area where the centre would take it off.
     auto keep = [](int start, int length, int visibleStart, int visibleLength) {
-        if (start < visibleStart)
-            return visibleStart;
         if (start + length > visibleStart + visibleLength)
-            return visibleStart + visibleLength - length;
-        return start;
+            start = visibleStart + visibleLength - length;
+        return std::max(start, visibleStart);
     };
-    origin.setX(keep(origin.x(), size.width(), visible.x(), visible.width()));
-    origin.setY(keep(origin.y(), size.height(), visible.y(), visible.height()));
-    return QRect(origin, size);
+    origin.setX(keep(origin.x(), fitted.width(), visible.x(), visible.width()));
+    origin.setY(keep(origin.y(), fitted.height(), visible.y(), visible.height()));
+    return QRect(origin, fitted);
 }
 
 void ViewController::resizeWindowToWidth(int width, int height)
@@ -253,10 +287,17 @@ void ViewController::resizeWindowToWidth(int width, int height)
     if (!window || window == this)
         return;
     QScreen* screen = window->screen();
-    const QRect frame = frameKeepingCentre(window->geometry(), QSize(width, height),
-                                           screen ? screen->availableGeometry() : QRect());
-    window->resize(frame.size());
-    window->move(frame.topLeft());
+    QRect visible = screen ? screen->availableGeometry() : QRect();
+    // The window manager's frame around the window takes room too.
+    const QRect inner = window->geometry();
+    const QRect outer = window->frameGeometry();
+    const QMargins frame(inner.left() - outer.left(), inner.top() - outer.top(),
+                         outer.right() - inner.right(), outer.bottom() - inner.bottom());
+    if (!visible.isEmpty())
+        visible = visible.marginsRemoved(frame);
+    const QRect placed = frameKeepingCentre(inner, QSize(width, height), visible);
+    window->resize(placed.size());
+    window->move(placed.topLeft() - QPoint(frame.left(), frame.top()));
 }
 
 void ViewController::updateToolbarItemImagName(const QString& identifier, const QString& imageName)

@@ -42,8 +42,9 @@ public:
     void showStatusBarHidden(bool hidden, bool animated);
     void showWaveViewHidden(bool hidden, bool animated);
     void resizeWindowToWidth(int width, int height);
-    // Where a window of the new size goes: the same centre, kept on the
-    // visible area (an empty one when there is no screen).
+    // Where a window of the new size goes: no larger than the visible area,
+    // the same centre, kept on that area (an empty one when there is no
+    // screen, and then the size is kept).
     static QRect frameKeepingCentre(const QRect& old, const QSize& size, const QRect& visible);
     void updateToolbarItemImagName(const QString& identifier, const QString& imageName);
 
@@ -139,6 +140,9 @@ private:
     void showUIElement();
     void animateHeight(QWidget* area, QGraphicsOpacityEffect* effect, int height, bool hidden,
                        bool animated);
+    // While a lesson is analysed the rows and the strip it replaces are
+    // hidden, not cleared: they come back as they were if the open fails.
+    void setLessonContentHidden(bool hidden);
     void finishOpening(bool success, const QString& path);
     void loadAudioFile(const QString& path);
     void startLoad(const QString& path);
@@ -165,6 +169,7 @@ private:
     QLabel* m_statusBarLabel = nullptr;
     QLabel* m_timeLabel = nullptr;
     LoadingIndicator* m_loadingIndicator = nullptr;
+    QPointer<QWidget> m_focusBeforeLoading; // given back when the content returns
     QGraphicsOpacityEffect* m_waveformOpacity = nullptr;
     QGraphicsOpacityEffect* m_statusBarOpacity = nullptr;
     QPointer<QParallelAnimationGroup> m_waveAnimation;

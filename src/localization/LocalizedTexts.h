@@ -298,6 +298,12 @@ inline constexpr std::array PreferencesWindow = {
     ShortcutPlayPause,  ShortcutRepeatPlay,  ShortcutPlayFirst,    ShortcutSplitAudio,
     ShortcutHint,       ResetToDefaults,     ChooseFont};
 
+// The empty window. %@ is the Open command's key as the menu shows it.
+inline constexpr const char* EmptyWindowHint =
+    QT_TRANSLATE_NOOP("Localizable", "Open a recording with %@ or drop it here");
+
+inline constexpr std::array EmptyWindow = {EmptyWindowHint};
+
 } // namespace Texts
 
 // Opening and saving: transcript panels, an import during an analysis

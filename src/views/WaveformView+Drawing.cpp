@@ -13,6 +13,7 @@
 #include <QPen>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace {
 
@@ -73,7 +74,15 @@ void WaveformView::paintEvent(QPaintEvent* event)
     m_painting = true;
     const double H = f.height;
     const double dirtyW = f.dirtyRight - f.dirtyLeft;
-    painter.fillRect(dirty, NamedColors::windowBackground());
+    if (H >= 2 * kWaveBottom) {
+        // The bands below cover all but the number band and the ruler band:
+        // only those two take the background, so no pixel is written twice.
+        const QColor background = NamedColors::windowBackground();
+        painter.fillRect(QRectF(f.dirtyLeft, 0.0, dirtyW, kNumberBand), background);
+        painter.fillRect(QRectF(f.dirtyLeft, H - kRulerHeight, dirtyW, kRulerHeight), background);
+    } else {
+        painter.fillRect(dirty, NamedColors::windowBackground());
+    }
     painter.setWorldTransform(f.upward);
     painter.fillRect(QRectF(f.dirtyLeft, H - kWaveBottom, dirtyW, kMarkerHeight),
                      NamedColors::white());
@@ -126,9 +135,9 @@ void WaveformView::drawWaveform(QPainter& painter, const Frame& f)
     const double perPoint = double(n) / f.extent; // columns per point of x
     const qint64 fromColumn = qint64(std::floor(f.dirtyLeft * perPoint));
     const qint64 toColumn = qint64(std::ceil(f.dirtyRight * perPoint));
-    // Neighbours a line's width away still touch the span.
+    // Neighbours half a line's width (half a device pixel) away still touch the span.
     const double spacing = double(step) * f.extent / double(n);
-    const qint64 margin = 2 + qint64(std::ceil(f.scale * 0.5 / std::max(spacing, 1e-9)));
+    const qint64 margin = 2 + qint64(std::ceil(0.5 / f.scale / std::max(spacing, 1e-9)));
     const qint64 kFrom = std::max<qint64>(0, (fromColumn - first) / step - margin);
     const qint64 kTo = (toColumn - first) / step + margin;
 
@@ -145,41 +154,89 @@ void WaveformView::drawWaveform(QPainter& painter, const Frame& f)
     }
     if (m_upperPoints.empty())
         return;
-    const double lineWidth = f.scale; // in points
-    if (lineWidth * f.scale <= 1.0) {
-        // One device pixel wide: Qt's thin-line path draws this fastest.
-        QPen pen(NamedColors::systemGreen(), lineWidth);
-        pen.setCapStyle(Qt::FlatCap);
-        painter.setPen(pen);
-        painter.drawPolyline(m_upperPoints.data(), int(m_upperPoints.size()));
-        painter.drawPolyline(m_lowerPoints.data(), int(m_lowerPoints.size()));
+    // One device pixel wide at any pixel ratio: at a ratio of 2 the envelope
+    // shows its two points per point instead of the ratio-1 picture enlarged.
+    if (spacing * f.scale <= 1.0 + 1e-9) {
+        // Points a device pixel apart or closer (the usual case): each stroke
+        // is, to the pixel, a vertical run per device column.
+        m_runs.clear();
+        appendColumnRuns(m_upperPoints, f, m_runs);
+        appendColumnRuns(m_lowerPoints, f, m_runs);
+        drawRuns(painter, f);
         return;
     }
-    // Wider lines: Qt's stroker takes hundreds of milliseconds over a jagged
-    // polyline of thousands of points. The points are about a device pixel
-    // apart, so each segment's stroke is, to the pixel, the box around it
-    // grown by half the line width; fill those boxes instead.
-    auto boxes = [half = lineWidth * 0.5](const std::vector<QPointF>& points,
-                                          std::vector<QRectF>& out) {
-        out.clear();
-        if (points.size() == 1)
-            out.emplace_back(points[0].x() - half, points[0].y() - half, 2 * half, 2 * half);
-        for (std::size_t j = 0; j + 1 < points.size(); ++j) {
-            const QPointF& a = points[j];
-            const QPointF& b = points[j + 1];
-            const double low = std::min(a.y(), b.y());
-            const double high = std::max(a.y(), b.y());
-            out.emplace_back(a.x() - half, low - half, b.x() - a.x() + 2 * half,
-                             high - low + 2 * half);
-        }
+    QPen pen(NamedColors::systemGreen(), 1.0);
+    pen.setCosmetic(true);
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawPolyline(m_upperPoints.data(), int(m_upperPoints.size()));
+    painter.drawPolyline(m_lowerPoints.data(), int(m_lowerPoints.size()));
+}
+
+void WaveformView::drawRuns(QPainter& painter, const Frame& f)
+{
+    if (m_runs.empty())
+        return;
+    // Thousands of one-pixel-wide rectangles cost Qt far more per call than
+    // per pixel; set in a layer of their own and laid over the band in one
+    // blit, device pixel for device pixel, they cost a fraction of that.
+    QRect bounds;
+    for (const QRect& run : m_runs)
+        bounds |= run;
+    if (m_envelope.width() < bounds.width() || m_envelope.height() < bounds.height())
+        m_envelope = QImage(bounds.size().expandedTo(m_envelope.size()),
+                            QImage::Format_ARGB32_Premultiplied);
+    const qsizetype stride = m_envelope.bytesPerLine();
+    uchar* bits = m_envelope.bits();
+    for (int y = 0; y < bounds.height(); ++y)
+        std::memset(bits + y * stride, 0, std::size_t(bounds.width()) * sizeof(QRgb));
+    const QRgb green = NamedColors::systemGreen().rgba(); // opaque: premultiplied as it is
+    for (const QRect& run : m_runs) {
+        uchar* line = bits + (run.top() - bounds.top()) * stride;
+        const int x = run.left() - bounds.left();
+        for (int y = 0; y < run.height(); ++y, line += stride)
+            reinterpret_cast<QRgb*>(line)[x] = green;
+    }
+    painter.setWorldTransform(QTransform::fromScale(1.0 / f.scale, 1.0 / f.scale) * f.downward);
+    painter.drawImage(bounds.topLeft(), m_envelope, QRect(QPoint(0, 0), bounds.size()));
+    painter.setWorldTransform(f.upward);
+}
+
+void WaveformView::appendColumnRuns(const std::vector<QPointF>& points, const Frame& f,
+                                    std::vector<QRect>& runs)
+{
+    // In device pixels, y downward. A one-pixel line from point j to j + 1
+    // lights the first half of its rise in j's column and the second half in
+    // the next one, so column j runs from the midpoint towards j - 1, through
+    // j, to the midpoint towards j + 1.
+    const auto count = points.size();
+    auto deviceY = [&](std::size_t j) { return (f.height - points[j].y()) * f.scale; };
+    int column = 0;
+    double top = 0.0, bottom = -1.0;
+    auto flush = [&] {
+        if (bottom < top)
+            return;
+        const int from = int(std::floor(top));
+        runs.emplace_back(column, from, 1, int(std::floor(bottom)) - from + 1);
     };
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(NamedColors::systemGreen());
-    boxes(m_upperPoints, m_boxes);
-    painter.drawRects(m_boxes.data(), int(m_boxes.size()));
-    boxes(m_lowerPoints, m_boxes);
-    painter.drawRects(m_boxes.data(), int(m_boxes.size()));
-    painter.setBrush(Qt::NoBrush);
+    for (std::size_t j = 0; j < count; ++j) {
+        const double y = deviceY(j);
+        const double before = j > 0 ? (deviceY(j - 1) + y) * 0.5 : y;
+        const double after = j + 1 < count ? (deviceY(j + 1) + y) * 0.5 : y;
+        const double low = std::min({y, before, after});
+        const double high = std::max({y, before, after});
+        const int c = int(std::floor(points[j].x() * f.scale));
+        if (c == column && bottom >= top) {
+            top = std::min(top, low);
+            bottom = std::max(bottom, high);
+            continue;
+        }
+        flush();
+        column = c;
+        top = low;
+        bottom = high;
+    }
+    flush();
 }
 
 void WaveformView::drawBoundaries(QPainter& painter, const Frame& f) const

@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QHash>
+#include <QImage>
 #include <QList>
 #include <QPointF>
 #include <QPointer>
@@ -104,6 +105,10 @@ private:
     // Drawing, each step in the flipped (y-up) coordinates unless it says so.
     void drawShading(QPainter& painter, const Frame& f) const;
     void drawWaveform(QPainter& painter, const Frame& f);
+    // The envelope's stroke as one run per device column, in device pixels.
+    void drawRuns(QPainter& painter, const Frame& f);
+    static void appendColumnRuns(const std::vector<QPointF>& points, const Frame& f,
+                                 std::vector<QRect>& runs);
     void drawBoundaries(QPainter& painter, const Frame& f) const;
     void drawTimeRuler(QPainter& painter, const Frame& f);
     void drawPlayhead(QPainter& painter, const Frame& f);
@@ -136,6 +141,7 @@ private:
     // Envelope points, kept between paints so that a repaint allocates nothing.
     std::vector<QPointF> m_upperPoints;
     std::vector<QPointF> m_lowerPoints;
-    std::vector<QRectF> m_boxes; // the envelope's strokes, when wider than a pixel
+    std::vector<QRect> m_runs; // the envelope's strokes, one per device column
+    QImage m_envelope;         // where the runs are set before they are laid on the band
     bool m_painting = false;
 };

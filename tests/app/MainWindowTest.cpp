@@ -161,25 +161,46 @@ TEST(MainWindow, StatusBarTogglesAtOnceAndTheWaveformStripSlides)
         [&] { return strip->height() == stripHeight && effect->opacity() == 1.0; }, 2000));
 }
 
-TEST(MainWindow, SizePresetsKeepTheCentreAndStayOnTheVisibleArea)
+TEST(MainWindow, SizePresetsKeepTheCentreAndFitTheVisibleArea)
 {
     const QRect screen(0, 0, 1920, 1080);
     // Room enough: the centre stays where it was.
     EXPECT_EQ(ViewController::frameKeepingCentre({400, 200, 1000, 600}, {1280, 800}, screen),
               QRect(260, 100, 1280, 800));
-    // Larger than the screen: the origin moves to the visible start, the size stays.
+    // Larger than the screen: as large as the visible area, and on it.
     EXPECT_EQ(ViewController::frameKeepingCentre({400, 200, 1000, 600}, {2560, 1600}, screen),
-              QRect(0, 0, 2560, 1600));
+              QRect(0, 0, 1920, 1080));
+    // Too tall only, below a panel: the width and the horizontal centre stay.
+    const QRect belowPanel(0, 32, 1600, 968);
+    EXPECT_EQ(ViewController::frameKeepingCentre({300, 100, 1000, 600}, {1280, 1080}, belowPanel),
+              QRect(160, 32, 1280, 968));
     // Near the far edge: moved back so that its end meets the visible end.
     EXPECT_EQ(ViewController::frameKeepingCentre({1500, 700, 400, 300}, {1280, 800}, screen),
               QRect(640, 280, 1280, 800));
-    // No screen at all: an empty visible area.
+    // A second screen to the left of the first.
+    EXPECT_EQ(ViewController::frameKeepingCentre({-1500, 100, 800, 600}, {2560, 1600},
+                                                 QRect(-1600, 0, 1600, 1000)),
+              QRect(-1600, 0, 1600, 1000));
+    // No screen at all: an empty visible area, and nothing to fit.
     EXPECT_EQ(ViewController::frameKeepingCentre({10, 10, 100, 100}, {200, 200}, QRect()),
               QRect(0, 0, 200, 200));
 
+    // Every preset on the harness's screen: within its available area, the
+    // window's frame included.
     WindowHarness h;
-    h.session().resizeWindowToWidth(1440, 900);
-    EXPECT_EQ(h.window().size(), QSize(1440, 900));
+    const QRect available = h.window().screen()->availableGeometry();
+    const QRect inner = h.window().geometry(), outer = h.window().frameGeometry();
+    const QSize room =
+        available.size().shrunkBy({inner.left() - outer.left(), inner.top() - outer.top(),
+                                   outer.right() - inner.right(), outer.bottom() - inner.bottom()});
+    for (const QSize& preset :
+         {QSize(1280, 800), QSize(1440, 900), QSize(1920, 1080), QSize(2560, 1600)}) {
+        SCOPED_TRACE(preset.width());
+        h.session().resizeWindowToWidth(preset.width(), preset.height());
+        EXPECT_EQ(h.window().size(), preset.boundedTo(room));
+        EXPECT_TRUE(available.contains(h.window().frameGeometry()))
+            << available.width() << "x" << available.height();
+    }
 }
 
 TEST(ClosePrompt, WithNoFileOpenTheWindowClosesAtOnce)

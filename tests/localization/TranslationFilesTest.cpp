@@ -87,6 +87,7 @@ QList<const char*> textList()
     QList<const char*> texts(Texts::All.begin(), Texts::All.end());
     texts.append(QList<const char*>(Texts::PreferencesWindow.begin(), Texts::PreferencesWindow.end()));
     texts.append(QList<const char*>(Texts::SessionFiles.begin(), Texts::SessionFiles.end()));
+    texts.append(QList<const char*>(Texts::EmptyWindow.begin(), Texts::EmptyWindow.end()));
     return texts;
 }
 

@@ -419,3 +419,65 @@ TEST_F(WaveformViewTest, ShadingAdvancesOneSegmentPerDrawingOutsideRepeatMode)
     shot();
     EXPECT_EQ(view->currentSegmentIndex(), last);
 }
+
+TEST_F(WaveformViewTest, DrawsAtTheDevicePixelRatioToTheDevicePixel)
+{
+    load("speech.wav");
+    showStrip(400);
+    const int h = H();
+    const double extent = 20.0 * engine.getTotalDuration();
+    ASSERT_LT(extent, 400.0);
+    auto render = [&](int ratio, const QRegion& region) {
+        QImage image(view->width() * ratio, h * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::white);
+        view->render(&image, QPoint(), region, QWidget::RenderFlags());
+        return image.convertToFormat(QImage::Format_RGB32);
+    };
+    auto greenIn = [](const QImage& image, const QRect& where) {
+        return countPixels(image, where, isGreen);
+    };
+
+    // Two values per point (a few more, so that none is more than a device
+    // pixel from the next), silent but for one peak of 0.5 near x = 100.5:
+    // at a ratio of 2 one value per device column.
+    const int n = int(std::ceil(2.0 * extent));
+    QList<float> peaks(n, 0.0f);
+    peaks[201] = 0.5f;
+    view->updateWaveformData(peaks);
+    QImage image = render(2, QRegion(view->rect()));
+    ASSERT_EQ(image.size(), QSize(2 * view->width(), 2 * h));
+    const int centre = h; // device rows: the band's centre line is at h / 2 points
+    // Silence is a line one device pixel thick, not a 1x line enlarged.
+    for (const int column : {40, 120, 300, 500}) {
+        SCOPED_TRACE(column);
+        EXPECT_EQ(greenIn(image, QRect(column, 0, 1, 2 * h)), 1);
+        EXPECT_EQ(greenIn(image, QRect(column, centre - 1, 1, 2)), 1);
+    }
+    // The peak three quarters up its rise stands one device column wide,
+    // above the line and mirrored below it.
+    const int rise = (h - 70) / 2; // device pixels, a half of full scale
+    const int peak = int(std::floor(201.0 * extent / n * 2.0));
+    for (const int row : {centre - 3 * rise / 4, centre + 3 * rise / 4 - 1}) {
+        SCOPED_TRACE(row);
+        EXPECT_EQ(greenIn(image, QRect(0, row, image.width(), 1)), 1);
+        EXPECT_EQ(greenIn(image, QRect(peak, row, 1, 1)), 1);
+    }
+    // Its tip reaches the peak's height and no further.
+    EXPECT_EQ(greenIn(image, QRect(peak, centre - rise - 1, 1, 2)), 1);
+    EXPECT_EQ(greenIn(image, QRect(0, 0, image.width(), centre - rise - 1)), 0);
+
+    // The real recording: a thin repaint at ratio 2 (a playhead move) matches
+    // the same pixels of a full one, envelope, shading and markers included.
+    view->updateWaveformData(engine.waveformData());
+    view->updateWithSegments(evenSegments(0.0, 3.0, engine.getTotalDuration()));
+    view->setCurrentSegment(1);
+    image = render(2, QRegion(view->rect()));
+    EXPECT_GT(greenIn(image, QRect(0, 70, 2 * int(extent), 2 * h - 140)), 800);
+    for (const int left : {57, 118, 137}) {
+        SCOPED_TRACE(left);
+        const QRect stripe(left, 0, 9, h);
+        const QImage thin = render(2, QRegion(stripe));
+        EXPECT_EQ(thin.copy(0, 0, 18, 2 * h), image.copy(2 * left, 0, 18, 2 * h));
+    }
+}

@@ -511,5 +511,9 @@ Versionshinweise:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>Die Lektion wird noch analysiert. Importieren Sie das Diktat, sobald sie geöffnet ist.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Öffnen Sie eine Aufnahme mit %@ oder ziehen Sie sie hierher</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Release Notes:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>The lesson is still being analysed. Import the dictation once it has opened.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Open a recording with %@ or drop it here</translation>
+    </message>
 </context>
 </TS>

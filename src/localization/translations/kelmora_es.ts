@@ -511,5 +511,9 @@ Notas de la versión:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>La lección todavía se está analizando. Importa el dictado cuando se haya abierto.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Abra una grabación con %@ o suéltela aquí</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Notes de version :
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>La leçon est encore en cours d'analyse. Importez la dictée une fois qu'elle est ouverte.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Ouvrez un enregistrement avec %@ ou déposez-le ici</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Release Notes:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>レッスンはまだ解析中です。開き終わってからディクテーションをインポートしてください。</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>%@ で録音を開くか、ここにドロップしてください</translation>
+    </message>
 </context>
 </TS>

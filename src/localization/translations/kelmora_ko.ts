@@ -511,5 +511,9 @@ Release Notes:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>레슨을 아직 분석하고 있습니다. 열린 후에 받아쓰기를 가져오세요.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>%@ 키로 녹음을 열거나 여기에 끌어다 놓으세요</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Release Notes:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>Урок ещё анализируется. Импортируйте диктант, когда он откроется.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Откройте запись клавишами %@ или перетащите её сюда</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Release Notes:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>ยังคงวิเคราะห์บทเรียนอยู่ นำเข้าการเขียนตามคำบอกเมื่อเปิดบทเรียนเสร็จแล้ว</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>เปิดไฟล์เสียงที่บันทึกไว้ด้วย %@ หรือลากมาวางที่นี่</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Ghi chú phát hành:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>Bài học vẫn đang được phân tích. Hãy nhập bài chính tả sau khi bài học đã mở xong.</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>Mở một bản ghi âm bằng %@ hoặc thả tệp vào đây</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,9 @@ Release Notes:
         <source>The lesson is still being analysed. Import the dictation once it has opened.</source>
         <translation>课程仍在分析中。请在打开完成后再导入听写。</translation>
     </message>
+    <message>
+        <source>Open a recording with %@ or drop it here</source>
+        <translation>按 %@ 打开录音，或将其拖放到此处</translation>
+    </message>
 </context>
 </TS>
