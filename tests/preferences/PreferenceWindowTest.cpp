@@ -51,7 +51,7 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_FALSE(f.control<QCheckBox>("showAudioWaveSwitch")->isChecked());
     EXPECT_TRUE(f.control<QCheckBox>("showStatusBarSwitch")->isChecked());
     EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "Menlo - 20.0");
-    EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), QString::fromUtf8("⌃R"));
+    EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), "Ctrl+R");
     EXPECT_EQ(f.control<ShortcutTextField>("splitaudio")->text(), "F2");
 
     // The language pop-up in its table's order, each name in the interface language.
@@ -68,7 +68,7 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(lines.value(start + 1), "minSegmentDuration=2.500000");
     EXPECT_EQ(lines.value(start + 5), "tableBackgroundColor=#ff123f7c,value=#123F7C");
     EXPECT_EQ(lines.value(start + 9), "dictionfont=Menlo - 20.0");
-    EXPECT_EQ(lines.value(start + 10), QString::fromUtf8("previous key,↑,keycode=126,modifierflags=0"));
+    EXPECT_EQ(lines.value(start + 10), "previous key,Up,keycode=126,modifierflags=0");
     EXPECT_EQ(lines.value(start + 16),
               "=====================================================================");
 }
@@ -202,7 +202,7 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     EXPECT_EQ(f.language->currentLanguage(), "en");
     EXPECT_EQ(f.control<QComboBox>("languagePopUpButton")->currentData().toString(), "en");
     EXPECT_EQ(ObjectStorage(d).keyboardShortcutForKey(NextSegmentShortcut), KeyboardShortcut(125, 0));
-    EXPECT_EQ(f.control<ShortcutTextField>("next")->text(), QString::fromUtf8("↓"));
+    EXPECT_EQ(f.control<ShortcutTextField>("next")->text(), "Down");
 }
 
 TEST(PreferenceWindow, ResetWithoutAnEnglishItemLeavesTheLanguageAlone)
