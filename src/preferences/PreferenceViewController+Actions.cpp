@@ -99,8 +99,9 @@ void PreferenceViewController::showStatusBarChanged(bool on)
 void PreferenceViewController::languageChanged(int index)
 {
     const QString code = m_languagePopUpButton->itemData(index).toString();
-    // Choosing the language already chosen needs no restart.
-    if (code.isEmpty() || code == m_language.currentLanguage())
+    // Choosing the language the learner already has needs no restart; with
+    // nothing chosen yet that is the one the window shows, not English.
+    if (code.isEmpty() || code == m_language.interfaceLanguage())
         return;
     m_language.changeLanguage(code);
     restartApp();

@@ -54,11 +54,15 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), "Ctrl+R");
     EXPECT_EQ(f.control<ShortcutTextField>("splitaudio")->text(), "F2");
 
-    // The language pop-up in its table's order, each name in the interface language.
+    // The language pop-up in its table's order, each name in its own language,
+    // then in the interface's (once where the two are the same).
     QComboBox* languages = f.control<QComboBox>("languagePopUpButton");
     ASSERT_EQ(languages->count(), 10);
     EXPECT_EQ(languages->itemData(1).toString(), "zh-Hans");
-    EXPECT_EQ(languages->itemText(1), "Chinese(Simplified)");
+    EXPECT_EQ(languages->itemText(0), "English");
+    EXPECT_EQ(languages->itemText(1), QString::fromUtf8("简体中文 — Chinese(Simplified)"));
+    EXPECT_EQ(languages->itemText(7), QString::fromUtf8("Русский — Russian"));
+    EXPECT_EQ(languages->itemText(9), QString::fromUtf8("Tiếng Việt — Vietnamese"));
     EXPECT_EQ(languages->currentData().toString(), "en");
 
     const QStringList& lines = log.lines();

@@ -191,7 +191,7 @@ If you have any questions, email me: support@kelmora.app.</translation>
     </message>
     <message>
         <source>Chinese(Simplified)</source>
-        <translation>Chinese(Simplified)</translation>
+        <translation>Chinese (Simplified)</translation>
     </message>
     <message>
         <source>Spanish</source>
