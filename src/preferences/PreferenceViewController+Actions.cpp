@@ -24,6 +24,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -109,7 +110,12 @@ void PreferenceViewController::languageChanged(int index)
 
 void PreferenceViewController::showFontPanel()
 {
-    auto* dialog = new QFontDialog(m_font, this);
+    // The panel lists real families: a stored family that stands for another
+    // ("Menlo" for the desktop's fixed-width font) would open it on the first
+    // family of the list.
+    QFont shown = m_font;
+    shown.setFamily(QFontInfo(m_font).family());
+    auto* dialog = new QFontDialog(shown, this);
     dialog->setObjectName(QStringLiteral("fontDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);

@@ -14,6 +14,7 @@
 #include "preferences/RepeatTimesSpinBox.h"
 #include "preferences/ShortcutTextField.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -92,6 +93,17 @@ void PreferenceViewController::setupUI()
     // A click on an empty part of the window takes the focus, which ends a
     // shortcut field's recording.
     setFocusPolicy(Qt::ClickFocus);
+
+    // Escape and Ctrl+W close the window, as they close a desktop's settings
+    // windows. A recording shortcut field takes every key first, Escape too.
+    auto* closeWindow = new QAction(this);
+    closeWindow->setObjectName(QStringLiteral("closePreferences"));
+    QList<QKeySequence> keys{QKeySequence(Qt::Key_Escape)};
+    keys += QKeySequence::keyBindings(QKeySequence::Close);
+    closeWindow->setShortcuts(keys);
+    closeWindow->setShortcutContext(Qt::WindowShortcut);
+    connect(closeWindow, &QAction::triggered, this, &QWidget::close);
+    addAction(closeWindow);
 }
 
 QWidget* PreferenceViewController::buildGeneralTab()

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -135,9 +136,14 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     EXPECT_EQ(f.posted.last(), "TableBackgroundColorDidChange");
     EXPECT_EQ(ObjectStorage(d).colorForKey(DictationTextColor), QColor(228, 223, 78));
 
+    // The font panel opens on the font in use: the family the stored "Menlo"
+    // stands for, not the first of its list.
     QTest::mouseClick(f.control<QPushButton>("fontDisplayLabel"), Qt::LeftButton);
     auto* fonts = openDialog<QFontDialog>(f.window.get(), "fontDialog");
     ASSERT_NE(fonts, nullptr);
+    EXPECT_EQ(fonts->currentFont().family().toStdString(),
+              QFontInfo(QFont(QStringLiteral("Menlo"))).family().toStdString());
+    EXPECT_DOUBLE_EQ(fonts->currentFont().pointSizeF(), 20.0);
     QFont chosen(QStringLiteral("DejaVu Sans"));
     chosen.setPointSizeF(14.0);
     fonts->setCurrentFont(chosen);
@@ -148,6 +154,13 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     EXPECT_DOUBLE_EQ(stored->pointSizeF(), 14.0);
     EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "DejaVu Sans - 14.0");
     EXPECT_EQ(f.posted.last(), "DictationTextFontDidChange");
+    ASSERT_TRUE(waitFor([&] { return !f.window->findChild<QFontDialog*>("fontDialog"); }));
+    f.window->showFontPanel();
+    fonts = openDialog<QFontDialog>(f.window.get(), "fontDialog");
+    ASSERT_NE(fonts, nullptr);
+    EXPECT_EQ(fonts->currentFont().family(), "DejaVu Sans");
+    EXPECT_DOUBLE_EQ(fonts->currentFont().pointSizeF(), 14.0);
+    fonts->reject();
 }
 
 TEST(PreferenceWindow, TypedRepeatCountStopsAtFiveDigitsAndAnEmptyFieldBecomesTheMinimum)
@@ -238,4 +251,35 @@ TEST(PreferenceWindow, ClosingTheWindowWhileAFieldRecordsStoresTheShortcut)
     EXPECT_FALSE(field->isRecording());
     EXPECT_EQ(ObjectStorage(f.defaults.store()).keyboardShortcutForKey(PlayFirstShortcut),
               KeyboardShortcut(35, 0x20000));
+}
+
+TEST(PreferenceWindow, EscapeAndCtrlWCloseTheWindowButARecordingFieldTakesEscape)
+{
+    PreferenceFixture f;
+    auto reopen = [&] {
+        f.window->show();
+        f.window->activateWindow();
+        return QTest::qWaitForWindowActive(f.window.get());
+    };
+    QTest::keyClick(f.control<QDoubleSpinBox>("playSpeedStepper"), Qt::Key_Escape);
+    EXPECT_FALSE(f.window->isVisible());
+    ASSERT_TRUE(reopen());
+    QTest::keyClick(f.window.get(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(f.window->isVisible());
+
+    ASSERT_TRUE(reopen());
+    f.window->findChild<QTabWidget*>()->setCurrentIndex(2);
+    auto* field = f.control<ShortcutTextField>("next");
+    QTest::mouseClick(field, Qt::LeftButton);
+    ASSERT_TRUE(field->isRecording());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(f.window->isVisible());
+    EXPECT_EQ(field->keyCode(), 53);
+    EXPECT_EQ(field->text(), "Esc");
+    // Once the field is left, Escape closes again; the key was stored.
+    f.window->findChild<QTabWidget*>()->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(f.window->isVisible());
+    EXPECT_EQ(ObjectStorage(f.defaults.store()).keyboardShortcutForKey(NextSegmentShortcut),
+              KeyboardShortcut(53, 0));
 }
