@@ -86,6 +86,7 @@ QList<const char*> textList()
 {
     QList<const char*> texts(Texts::All.begin(), Texts::All.end());
     texts.append(QList<const char*>(Texts::PreferencesWindow.begin(), Texts::PreferencesWindow.end()));
+    texts.append(QList<const char*>(Texts::KeyboardCommands.begin(), Texts::KeyboardCommands.end()));
     return texts;
 }
 
