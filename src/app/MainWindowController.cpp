@@ -231,6 +231,13 @@ void MainWindowController::updatePlaybackMenu()
 
 void MainWindowController::openMenuBar()
 {
+    // The key reaches this action before the key hook: a learner who bound
+    // F10 to one of the six keeps it for that.
+    if (const std::optional<ShortcutAction> bound =
+            matchStoredShortcut(ObjectStorage(m_defaults), Keyboard::KeyF10, 0)) {
+        KeyDownMonitor::perform(*bound, *m_viewController);
+        return;
+    }
     const QList<QAction*> menus = menuBar()->actions();
     if (!menus.isEmpty())
         menuBar()->setActiveAction(menus.first());

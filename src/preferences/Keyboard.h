@@ -30,6 +30,7 @@ public:
         KeyReturn = 36,
         KeySlash = 44,
         KeyF2 = 120,
+        KeyF10 = 109,
         KeyDownArrow = 125,
         KeyUpArrow = 126,
         // Keys with no code in that numbering are given codes from here upward.

@@ -375,6 +375,15 @@ TEST(MainWindowMenus, F10AndMnemonicsOpenTheMenusAndPlaybackShowsTheKeysBoundNow
     QTest::keyClick(playback, Qt::Key_N);
     EXPECT_FALSE(playback->isVisible());
     EXPECT_EQ(h.session().currentSegmentIndex(), 1);
+
+    // F10 bound to one of the six runs that command instead.
+    closeMenus(h.window());
+    ObjectStorage(h.defaults())
+        .setKeyboardShortcut(KeyboardShortcut(Keyboard::KeyF10, 0),
+                             PreferenceKeys::NextSegmentShortcut);
+    QTest::keyClick(&h.window(), Qt::Key_F10);
+    EXPECT_EQ(h.session().currentSegmentIndex(), 2);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST(MainWindowMenus, EveryMenuItemHasAMnemonicOfItsOwnInEveryLanguage)
