@@ -2,7 +2,6 @@
 
 #include "preferences/KeyboardShortcut.h"
 
-#include <QCoreApplication>
 #include <QKeySequence>
 
 QString Keyboard::keyCodeToString(qint64 keyCode)
@@ -21,17 +20,23 @@ QString Keyboard::keyCodeToString(qint64 keyCode)
 
 QString Keyboard::modifierFlagsToString(quint64 modifierFlags)
 {
-    // The same words, through the same translation, as Qt's menus; Qt says
-    // "Meta" where Linux desktops say "Super".
+    // Qt's own words, as its menus print them (translated with Qt's
+    // dialogs), taken from a sequence on a one-letter key; Qt says "Meta"
+    // where Linux desktops say "Super".
+    auto qtPrefix = [](Qt::KeyboardModifier modifier) {
+        return QKeySequence(QKeyCombination(modifier, Qt::Key_A))
+            .toString(QKeySequence::NativeText)
+            .chopped(1);
+    };
     QString text;
     if (modifierFlags & ModifierFlag::Command)
         text += QStringLiteral("Super+");
     if (modifierFlags & ModifierFlag::Control)
-        text += QCoreApplication::translate("QShortcut", "Ctrl") + QLatin1Char('+');
+        text += qtPrefix(Qt::ControlModifier);
     if (modifierFlags & ModifierFlag::Option)
-        text += QCoreApplication::translate("QShortcut", "Alt") + QLatin1Char('+');
+        text += qtPrefix(Qt::AltModifier);
     if (modifierFlags & ModifierFlag::Shift)
-        text += QCoreApplication::translate("QShortcut", "Shift") + QLatin1Char('+');
+        text += qtPrefix(Qt::ShiftModifier);
     return text;
 }
 
