@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/AutoSaveQueue.h"
 #include "app/Dialogs.h"
 #include "app/MainWindowController.h"
 #include "app/UpdateAlertSheets.h"
@@ -7,6 +8,9 @@
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "preferences/Keyboard.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/ShortcutBindings.h"
 #include "preferences/PreferenceViewController.h"
 #include "transcript/DocumentManager.h"
 #include "update/CheckAppUpdate.h"
@@ -15,6 +19,8 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeySequence>
+#include <QMessageBox>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -83,9 +89,26 @@ void AppDelegate::changeSize(int width, int height)
         session->resizeWindowToWidth(width, height);
 }
 
-QString AppDelegate::localizedHelpText()
+QString AppDelegate::localizedHelpText(Defaults& defaults)
 {
-    return LocalizedString(Texts::HelpText);
+    const ShortcutSet shortcuts = storedShortcuts(ObjectStorage(defaults));
+    auto bound = [&shortcuts](ShortcutAction action) {
+        const auto& bindings = shortcutBindings();
+        for (std::size_t i = 0; i < bindings.size(); ++i) {
+            if (bindings[i].action == action)
+                return Keyboard::shortcutText(shortcuts[i].keyCode(), shortcuts[i].modifierFlags());
+        }
+        return QString();
+    };
+    auto menuKey = [](QKeySequence::StandardKey key) {
+        return QKeySequence(key).toString(QKeySequence::NativeText);
+    };
+    return stringWithFormat(
+        LocalizedString(Texts::HelpGuide),
+        {menuKey(QKeySequence::Open), bound(ShortcutAction::PlayPause),
+         bound(ShortcutAction::NextSegment), bound(ShortcutAction::PreviousSegment),
+         bound(ShortcutAction::RepeatPlay), bound(ShortcutAction::PlayFirst),
+         bound(ShortcutAction::SplitAudio), menuKey(QKeySequence::Save)});
 }
 
 QString AppDelegate::helpPagePath()
@@ -111,8 +134,19 @@ void AppDelegate::showHelp()
     const QString page = helpPagePath();
     if (!page.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(page)))
         return;
-    Dialogs::showModalAlert(LocalizedString(Texts::Help), localizedHelpText(),
-                            LocalizedString(Texts::OK));
+    // Information, not a fault: the same alert as ever, with the keys in use.
+    const QString title = LocalizedString(Texts::Help);
+    const QString text = localizedHelpText(m_services.defaults);
+    QMessageBox box(Dialogs::mainWindow());
+    box.setObjectName(QStringLiteral("helpAlert"));
+    box.setIcon(QMessageBox::Information);
+    box.setWindowTitle(title);
+    box.setText(title);
+    box.setInformativeText(text);
+    box.setAccessibleName(title);
+    box.setAccessibleDescription(text);
+    box.addButton(LocalizedString(Texts::OK), QMessageBox::AcceptRole);
+    box.exec();
 }
 
 PreferenceViewController* AppDelegate::preferenceWindowController() const
@@ -149,6 +183,12 @@ void AppDelegate::restartApp()
     if (!window)
         return;
     m_restartPending = true;
+    // The restarted window reopens the lesson from the store: the last
+    // keystrokes go there first, throttle or not.
+    if (ViewController* session = this->session()) {
+        session->autoSaveTranscription(true);
+        m_services.autoSave.waitForDone();
+    }
     window->close();
 }
 
@@ -162,7 +202,13 @@ void AppDelegate::mainWindowClosed()
     m_restartPending = false;
     emit aboutToRestart();
     const QString program = QCoreApplication::applicationFilePath();
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    // The lesson in the window now, not the one the first command line named
+    // (which the learner may have left long ago, or which failed to open).
+    QStringList arguments;
+    if (const ViewController* session = this->session();
+        session && !session->currentAudioPath().isEmpty() &&
+        (session->hasSegmentsShown() || session->isProcessing()))
+        arguments << session->currentAudioPath();
     const bool started = m_startProcess ? m_startProcess(program, arguments)
                                         : QProcess::startDetached(program, arguments);
     if (!started)

@@ -36,7 +36,8 @@ public:
     void changeSize(int width, int height);
     void continueStartup();
     void setupApplicationDirectories();
-    static QString localizedHelpText();
+    // The help alert's text, naming the keys as they are bound now.
+    static QString localizedHelpText(Defaults& defaults);
     // Where the help page is installed, or empty when it is not.
     static QString helpPagePath();
 
@@ -49,9 +50,10 @@ public:
     // The shared language manager unless a test gives its own.
     void setLanguageManager(LanguageManager& language) { m_language = &language; }
 
-    // Closes the main window (its save prompt may still keep it open); once it
-    // has really closed, starts this program again with the same arguments
-    // and quits. A cancelled prompt cancels the restart.
+    // Saves what was typed, closes the main window (its save prompt may
+    // still keep it open); once it has really closed, starts this program
+    // again with the lesson the window showed (nothing else from the first
+    // command line) and quits. A cancelled prompt cancels the restart.
     void restartApp();
     using ProcessStarter = std::function<bool(const QString& program, const QStringList& arguments)>;
     // How the new process is started (QProcess::startDetached unless a test

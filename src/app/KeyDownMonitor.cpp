@@ -4,7 +4,6 @@
 #include "common/ThreadHandOff.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
-#include "preferences/ShortcutBindings.h"
 #include "views/TranscriptionTableView.h"
 
 #include <QAbstractSpinBox>
@@ -41,6 +40,30 @@ bool KeyDownMonitor::isOtherTextInput(const QWidget* focus) const
     return !m_session.transcriptionTableView()->isAncestorOf(focus);
 }
 
+void KeyDownMonitor::perform(ShortcutAction action, ViewController& session)
+{
+    switch (action) {
+    case ShortcutAction::PreviousSegment:
+        session.playPreviousSegment();
+        break;
+    case ShortcutAction::NextSegment:
+        session.playNextSegment();
+        break;
+    case ShortcutAction::PlayPause:
+        session.togglePlayPause();
+        break;
+    case ShortcutAction::RepeatPlay:
+        session.toggleRepeat(nullptr);
+        break;
+    case ShortcutAction::PlayFirst:
+        session.playFirstSegment();
+        break;
+    case ShortcutAction::SplitAudio:
+        session.processAudioFile();
+        break;
+    }
+}
+
 bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
 {
     // Every event passes here first, including those workers post back.
@@ -64,25 +87,6 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
         matchStoredShortcut(ObjectStorage(m_defaults), stroke.keyCode, stroke.rawModifierFlags);
     if (!action)
         return false;
-    switch (*action) {
-    case ShortcutAction::PreviousSegment:
-        m_session.playPreviousSegment();
-        break;
-    case ShortcutAction::NextSegment:
-        m_session.playNextSegment();
-        break;
-    case ShortcutAction::PlayPause:
-        m_session.togglePlayPause();
-        break;
-    case ShortcutAction::RepeatPlay:
-        m_session.toggleRepeat(nullptr);
-        break;
-    case ShortcutAction::PlayFirst:
-        m_session.playFirstSegment();
-        break;
-    case ShortcutAction::SplitAudio:
-        m_session.processAudioFile();
-        break;
-    }
+    perform(*action, m_session);
     return true;
 }

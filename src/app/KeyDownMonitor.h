@@ -1,5 +1,7 @@
 #pragma once
 
+#include "preferences/ShortcutBindings.h"
+
 #include <QObject>
 
 class Defaults;
@@ -20,6 +22,9 @@ public:
     // Installs itself on the application; goes away with its parent.
     KeyDownMonitor(ViewController& session, Defaults& defaults, QObject* parent = nullptr);
     ~KeyDownMonitor() override;
+
+    // What each of the six commands does, for a key press and a menu item alike.
+    static void perform(ShortcutAction action, ViewController& session);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

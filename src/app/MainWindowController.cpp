@@ -2,6 +2,7 @@
 
 #include "app/Dialogs.h"
 #include "app/IconManager.h"
+#include "app/KeyDownMonitor.h"
 #include "app/RecentDocuments.h"
 #include "app/ViewController.h"
 #include "audio/AudioDecoder.h"
@@ -10,11 +11,15 @@
 #include "common/NotificationNames.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "preferences/Keyboard.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/ShortcutBindings.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -70,22 +75,27 @@ void MainWindowController::setupToolbar()
     m_playPauseButton = add("playPause", "play", Texts::ToolbarPlayPause, Texts::TipPlayPause);
     connect(m_playPauseButton, &QAction::triggered, this,
             [this] { m_viewController->togglePlayPause(); });
+    needsLesson(m_playPauseButton);
 
     m_repeatButton = add("repeatMode", m_engine.isRepeatMode() ? "repeat.1" : "forward",
                          Texts::Repeat, Texts::TipRepeat);
     connect(m_repeatButton, &QAction::triggered, this, &MainWindowController::toolbarItemRepeat);
+    needsLesson(m_repeatButton);
 
     QAction* exportButton = add("export", "export", Texts::ToolbarExport, Texts::TipExport);
     connect(exportButton, &QAction::triggered, this,
             [this] { m_viewController->saveTranscription(); });
+    needsLesson(exportButton);
     QAction* settings = add("settings", "settings", Texts::ToolbarSettings, Texts::TipSettings);
     connect(settings, &QAction::triggered, this, &MainWindowController::preferencesRequested);
     QAction* import = add("import", "import", Texts::ToolbarImport, Texts::TipImport);
     connect(import, &QAction::triggered, this,
             [this] { m_viewController->importTranscription(); });
+    needsLesson(import);
     QAction* clear = add("clear", "clear", Texts::ToolbarClear, Texts::TipClear);
     connect(clear, &QAction::triggered, this,
             [this] { m_viewController->clearTranscription(); });
+    needsLesson(clear);
     QAction* music = add("importFromMusicLibrary", "music", Texts::ToolbarMusic, Texts::TipMusic);
     connect(music, &QAction::triggered, this,
             &MainWindowController::toolbarItemImportFromMusicLibrary);
@@ -93,30 +103,47 @@ void MainWindowController::setupToolbar()
 
 void MainWindowController::setupMenus()
 {
-    QMenu* file = menuBar()->addMenu(LocalizedString(Texts::MenuFile));
-    QAction* open = file->addAction(LocalizedString(Texts::MenuOpen));
-    open->setObjectName(QStringLiteral("menuOpen"));
-    open->setShortcut(QKeySequence::Open);
-    connect(open, &QAction::triggered, this, [this] { m_viewController->openFile(); });
+    auto item = [this](QMenu* menu, const char* name, const char* text, auto slot) {
+        QAction* action = menu->addAction(LocalizedString(text));
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, slot);
+        return action;
+    };
+    auto addMenu = [this](const char* name, const char* text) {
+        QMenu* menu = menuBar()->addMenu(LocalizedString(text));
+        menu->setObjectName(QLatin1String(name));
+        return menu;
+    };
+
+    QMenu* file = addMenu("menuFile", Texts::MenuFile);
+    item(file, "menuOpen", Texts::MenuOpen, [this] { m_viewController->openFile(); })
+        ->setShortcut(QKeySequence::Open);
     m_recentMenu = file->addMenu(LocalizedString(Texts::MenuOpenRecent));
+    m_recentMenu->setObjectName(QStringLiteral("menuOpenRecent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindowController::rebuildRecentMenu);
     rebuildRecentMenu();
-    QAction* save = file->addAction(LocalizedString(Texts::MenuExport));
-    save->setObjectName(QStringLiteral("menuExport"));
-    save->setShortcut(QKeySequence::Save);
-    connect(save, &QAction::triggered, this, [this] { m_viewController->saveTranscription(); });
     file->addSeparator();
-    QAction* preferences = file->addAction(LocalizedString(Texts::MenuPreferences));
-    preferences->setObjectName(QStringLiteral("menuPreferences"));
+    needsLesson(item(file, "menuImportDictation", Texts::MenuImportDictation,
+                     [this] { m_viewController->importTranscription(); }));
+    item(file, "menuImportFromMusic", Texts::MenuImportFromMusic,
+         &MainWindowController::toolbarItemImportFromMusicLibrary);
+    QAction* save = item(file, "menuExport", Texts::MenuExport,
+                         [this] { m_viewController->saveTranscription(); });
+    save->setShortcut(QKeySequence::Save);
+    needsLesson(save);
+    file->addSeparator();
+    item(file, "menuQuit", Texts::MenuQuit, &QWidget::close)->setShortcut(QKeySequence::Quit);
+
+    QMenu* edit = addMenu("menuEdit", Texts::MenuEdit);
+    needsLesson(item(edit, "menuClearDictation", Texts::MenuClearDictation,
+                     [this] { m_viewController->clearTranscription(); }));
+    edit->addSeparator();
+    QAction* preferences = item(edit, "menuPreferences", Texts::MenuPreferences,
+                                &MainWindowController::preferencesRequested);
     preferences->setMenuRole(QAction::PreferencesRole);
     preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
-    connect(preferences, &QAction::triggered, this, &MainWindowController::preferencesRequested);
-    file->addSeparator();
-    QAction* quit = file->addAction(LocalizedString(Texts::MenuQuit));
-    quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, &QWidget::close);
 
-    QMenu* view = menuBar()->addMenu(LocalizedString(Texts::MenuView));
+    QMenu* view = addMenu("menuView", Texts::MenuView);
     QMenu* sizes = view->addMenu(LocalizedString(Texts::MenuWindowSize));
     for (const QSize& size : {QSize(1280, 800), QSize(1440, 900), QSize(1920, 1080),
                               QSize(2560, 1600)}) {
@@ -126,13 +153,105 @@ void MainWindowController::setupMenus()
                 [this, size] { emit sizePresetRequested(size.width(), size.height()); });
     }
 
-    QMenu* help = menuBar()->addMenu(LocalizedString(Texts::Help));
-    QAction* updates = help->addAction(LocalizedString(Texts::MenuCheckForUpdates));
-    connect(updates, &QAction::triggered, this, &MainWindowController::checkForUpdatesRequested);
-    updates->setObjectName(QStringLiteral("menuCheckForUpdates"));
-    QAction* guide = help->addAction(LocalizedString(Texts::MenuKelmoraHelp));
-    guide->setShortcut(QKeySequence::HelpContents);
-    connect(guide, &QAction::triggered, this, &MainWindowController::helpRequested);
+    setupPlaybackMenu();
+
+    QMenu* help = addMenu("menuHelp", Texts::MenuHelp);
+    item(help, "menuKelmoraHelp", Texts::MenuKelmoraHelp, &MainWindowController::helpRequested)
+        ->setShortcut(QKeySequence::HelpContents);
+    item(help, "menuCheckForUpdates", Texts::MenuCheckForUpdates,
+         &MainWindowController::checkForUpdatesRequested);
+
+    // Qt leaves F10 to the desktop, and on X11 no desktop takes it.
+    auto* menuKey = new QAction(this);
+    menuKey->setObjectName(QStringLiteral("openMenuBar"));
+    menuKey->setShortcut(QKeySequence(Qt::Key_F10));
+    menuKey->setShortcutContext(Qt::WindowShortcut);
+    connect(menuKey, &QAction::triggered, this, &MainWindowController::openMenuBar);
+    addAction(menuKey);
+
+    connect(m_viewController, &ViewController::lessonShownChanged, this,
+            &MainWindowController::lessonShownChanged);
+    lessonShownChanged(m_viewController->hasSegmentsShown());
+}
+
+namespace {
+
+// The Playback menu's items, in its order, with the command each one runs.
+struct PlaybackItem
+{
+    const char* name;
+    const char* text;
+    ShortcutAction action;
+};
+constexpr PlaybackItem kPlaybackItems[] = {
+    {"menuPlayPause", Texts::MenuPlayPause, ShortcutAction::PlayPause},
+    {"menuPreviousSegment", Texts::MenuPreviousSegment, ShortcutAction::PreviousSegment},
+    {"menuNextSegment", Texts::MenuNextSegment, ShortcutAction::NextSegment},
+    {"menuRepeatMode", Texts::MenuRepeatMode, ShortcutAction::RepeatPlay},
+    {"menuFirstSegment", Texts::MenuFirstSegment, ShortcutAction::PlayFirst},
+    {"menuSplitAudio", Texts::MenuSplitAudio, ShortcutAction::SplitAudio},
+};
+
+} // namespace
+
+void MainWindowController::setupPlaybackMenu()
+{
+    QMenu* menu = m_playbackMenu = menuBar()->addMenu(LocalizedString(Texts::MenuPlayback));
+    menu->setObjectName(QStringLiteral("menuPlayback"));
+    for (const PlaybackItem& entry : kPlaybackItems) {
+        QAction* action = menu->addAction(LocalizedString(entry.text));
+        action->setObjectName(QLatin1String(entry.name));
+        action->setData(int(entry.action));
+        const ShortcutAction command = entry.action;
+        connect(action, &QAction::triggered, this,
+                [this, command] { KeyDownMonitor::perform(command, *m_viewController); });
+        needsLesson(action);
+    }
+    connect(menu, &QMenu::aboutToShow, this, &MainWindowController::updatePlaybackMenu);
+    updatePlaybackMenu();
+}
+
+void MainWindowController::updatePlaybackMenu()
+{
+    // The keys are the key hook's, not the actions' own: a menu shortcut would
+    // fire before the hook and take keys from the dictation rows. After a tab
+    // a menu prints the text where it prints a shortcut.
+    const ShortcutSet shortcuts = storedShortcuts(ObjectStorage(m_defaults));
+    const auto& bindings = shortcutBindings();
+    const QList<QAction*> actions = m_playbackMenu->actions();
+    for (std::size_t i = 0; i < std::size(kPlaybackItems); ++i) {
+        std::size_t binding = 0;
+        while (bindings[binding].action != kPlaybackItems[i].action)
+            ++binding;
+        const KeyboardShortcut& key = shortcuts[binding];
+        actions[qsizetype(i)]->setText(LocalizedString(kPlaybackItems[i].text) + QLatin1Char('\t') +
+                                       Keyboard::shortcutText(key.keyCode(), key.modifierFlags()));
+    }
+}
+
+void MainWindowController::openMenuBar()
+{
+    // The key reaches this action before the key hook: a learner who bound
+    // F10 to one of the six keeps it for that.
+    if (const std::optional<ShortcutAction> bound =
+            matchStoredShortcut(ObjectStorage(m_defaults), Keyboard::KeyF10, 0)) {
+        KeyDownMonitor::perform(*bound, *m_viewController);
+        return;
+    }
+    const QList<QAction*> menus = menuBar()->actions();
+    if (!menus.isEmpty())
+        menuBar()->setActiveAction(menus.first());
+}
+
+void MainWindowController::needsLesson(QAction* command)
+{
+    m_lessonCommands.append(command);
+}
+
+void MainWindowController::lessonShownChanged(bool shown)
+{
+    for (QAction* command : std::as_const(m_lessonCommands))
+        command->setEnabled(shown);
 }
 
 void MainWindowController::rebuildRecentMenu()

@@ -14,7 +14,9 @@ class ViewController;
 
 // The main window: toolbar, menu bar and the close prompt. Its commands only
 // forward to the session (ViewController) or, for application-wide commands,
-// to whoever listens to its signals (the application delegate).
+// to whoever listens to its signals (the application delegate). Every toolbar
+// command is also a menu item, every menu has its mnemonics, F10 opens the
+// menu bar, and the commands that need a lesson are disabled without one.
 class MainWindowController : public QMainWindow
 {
     Q_OBJECT
@@ -35,6 +37,11 @@ public:
 
     // Rebuilds the Open Recent menu from the stored list.
     void rebuildRecentMenu();
+
+    // F10: the menu bar's first menu opens, as on GNOME and KDE.
+    void openMenuBar();
+    // The Playback menu's items show the keys bound now.
+    void updatePlaybackMenu();
 
     // A panel starting in the user's music folder; the chosen file goes the
     // direct road once it opens as audio ("Error Opening File" otherwise).
@@ -57,6 +64,10 @@ protected:
 private:
     void setupToolbar();
     void setupMenus();
+    void setupPlaybackMenu();
+    // Enabled only while a lesson is in the window.
+    void needsLesson(QAction* command);
+    void lessonShownChanged(bool shown);
     void playStatusDidChange();
     void toolbarItemRepeat();
     void closeAfterSave();
@@ -70,5 +81,7 @@ private:
     QPointer<QAction> m_playPauseButton;
     QPointer<QAction> m_repeatButton;
     QMenu* m_recentMenu = nullptr;
+    QMenu* m_playbackMenu = nullptr;
+    QList<QAction*> m_lessonCommands;
     bool m_closeConfirmed = false;
 };

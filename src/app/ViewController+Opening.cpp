@@ -120,7 +120,7 @@ void ViewController::finishOpening(bool success, const QString& path)
 
 void ViewController::showEngineSegmentsAndPlay()
 {
-    m_segmentsShown = m_engine.numberOfSegments();
+    setSegmentsShown(m_engine.numberOfSegments());
     m_waveformView->updateWithSegments(m_engine.segments());
     m_waveformView->updateWaveformData(m_engine.waveformData());
     m_waveformView->updateContentWidth();

@@ -68,9 +68,9 @@ void ViewController::stageTranscriptions(TranscriptionManager& store) const
         store.setTranscription(m_table->generateLRCStringForText(texts[i], i), i);
 }
 
-void ViewController::autoSaveTranscription()
+void ViewController::autoSaveTranscription(bool now)
 {
-    if (m_autoSave.isThrottled())
+    if (!now && m_autoSave.isThrottled())
         return;
     const QStringList& texts = m_table->mutableTranscriptions();
     if (texts.isEmpty() || m_currentAudioPath.isEmpty())

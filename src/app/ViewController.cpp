@@ -70,6 +70,14 @@ ViewController::~ViewController()
     m_analysisQueue->waitForDone();
 }
 
+void ViewController::setSegmentsShown(qsizetype count)
+{
+    const bool wasShown = m_segmentsShown > 0;
+    m_segmentsShown = count;
+    if (wasShown != (count > 0))
+        emit lessonShownChanged(count > 0);
+}
+
 void ViewController::buildViews()
 {
     m_table = new TranscriptionTableView(m_engine, m_center, m_defaults, this);

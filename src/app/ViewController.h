@@ -107,8 +107,9 @@ public:
     // Export through a save panel proposing "<audio name>.lrc".
     void saveTranscription();
     void exportTranscriptionTo(const QString& path);
-    // Throttled save into the store on the auto-save thread.
-    void autoSaveTranscription();
+    // Throttled save into the store on the auto-save thread; `now` saves
+    // whatever the throttle says (a restart that reopens the lesson).
+    void autoSaveTranscription(bool now = false);
     void importTranscription();
     // The import after its file was chosen.
     void importTranscriptionFrom(const QString& path);
@@ -132,7 +133,14 @@ public:
     QStatusBar* statusBar() const { return m_statusBar; }
     LoadingIndicator* loadingIndicator() const { return m_loadingIndicator; }
 
+signals:
+    // A lesson appeared in the window, or the window went back to having none
+    // (hasSegmentsShown()); the commands that need one follow it.
+    void lessonShownChanged(bool shown);
+
 private:
+    // Every change of what the window shows goes through here.
+    void setSegmentsShown(qsizetype count);
     void buildViews();
     void listenNotifications();
     void setupStatusBar();

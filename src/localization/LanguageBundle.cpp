@@ -57,6 +57,16 @@ const QTranslator* LanguageBundle::translatorFor(const QString& languageCode) co
     return it->second.get();
 }
 
+QString LanguageBundle::localizedStringForKeyInLanguage(const QString& key,
+                                                        const QString& languageCode) const
+{
+    QMutexLocker lock(&m_mutex);
+    const QTranslator* translator = translatorFor(languageCode);
+    const QString text = translator ? translator->translate(MainTable, key.toUtf8().constData())
+                                    : QString();
+    return text.isEmpty() ? key : text;
+}
+
 QString LanguageBundle::localizedStringForKey(const QString& key, const QString& value,
                                               const QString& table) const
 {

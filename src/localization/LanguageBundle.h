@@ -34,6 +34,10 @@ public:
     QString localizedStringForKey(const QString& key, const QString& value,
                                   const QString& table) const;
 
+    // The text for `key` in the main table of one language, whatever the
+    // interface shows; the key when that table lacks it or does not exist.
+    QString localizedStringForKeyInLanguage(const QString& key, const QString& languageCode) const;
+
     // The compiled translation of a language code ("ja", "zh-Hans"), built
     // into the binary.
     static QString translationResource(const QString& languageCode);

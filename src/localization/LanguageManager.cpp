@@ -54,6 +54,22 @@ QString LanguageManager::currentLanguage() const
     return language.isEmpty() ? QStringLiteral("en") : language;
 }
 
+QString LanguageManager::interfaceLanguage() const
+{
+    const QString language = m_store.stringForKey(key(PreferenceKeys::AppLanguage));
+    return language.isEmpty() ? startupLanguage() : language;
+}
+
+QString LanguageManager::nativeLanguageName(const QString& code) const
+{
+    for (const Language& language : supportedLanguages()) {
+        if (code == QLatin1String(language.code))
+            return m_bundle.localizedStringForKeyInLanguage(
+                QString::fromLatin1(language.englishName), code);
+    }
+    return code;
+}
+
 void LanguageManager::storeLanguage(const QString& code)
 {
     m_store.setObject(code, key(PreferenceKeys::AppLanguage));
@@ -92,11 +108,16 @@ QString LanguageManager::supportedLanguageForTag(const QString& tag)
     return {};
 }
 
+QStringList LanguageManager::systemLanguages() const
+{
+    return m_systemLanguages ? *m_systemLanguages : QLocale::system().uiLanguages();
+}
+
 QString LanguageManager::startupLanguage() const
 {
     QStringList candidates =
         m_store.objectForKey(key(PreferenceKeys::AppleLanguages)).toStringList();
-    candidates += QLocale::system().uiLanguages();
+    candidates += systemLanguages();
     for (const QString& tag : candidates) {
         const QString code = supportedLanguageForTag(tag);
         if (!code.isEmpty() && LanguageBundle::hasTranslation(code))

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <memory>
+#include <optional>
 
 class Defaults;
 class LanguageBundle;
@@ -35,6 +36,14 @@ public:
     // "AppLanguage", or "en" when unset.
     QString currentLanguage() const;
 
+    // The language the learner has: "AppLanguage" when one was chosen, else
+    // the one this start's interface was built in (startupLanguage()), which
+    // is the system's when nothing was ever chosen.
+    QString interfaceLanguage() const;
+
+    // A language's name in that language ("Русский"), from its own table.
+    QString nativeLanguageName(const QString& code) const;
+
     // Stores the code under "AppLanguage" and as the one-element "AppleLanguages",
     // writes the store, then posts "LanguageDidChangeNotification" with
     // {"language": code, "oldLanguage": previous}. Nothing on screen is rebuilt:
@@ -50,6 +59,10 @@ public:
     // that has one, else "en". Regional forms map to ours ("en-GB" -> "en",
     // "zh-CN" -> "zh-Hans").
     QString startupLanguage() const;
+    // The system's preferred languages: QLocale's, unless a test stands in
+    // for a desktop in another language.
+    void setSystemLanguages(const QStringList& tags) { m_systemLanguages = tags; }
+    QStringList systemLanguages() const;
     // The supported code a language tag falls under, or empty.
     static QString supportedLanguageForTag(const QString& tag);
 
@@ -65,6 +78,7 @@ private:
     Defaults& m_store;
     NotificationCenter& m_center;
     LanguageBundle& m_bundle;
+    std::optional<QStringList> m_systemLanguages;
     std::unique_ptr<QTranslator> m_translator;
     std::unique_ptr<QTranslator> m_qtTranslator; // Qt's own dialogs (font, colour, file)
 };

@@ -16,11 +16,6 @@ inline constexpr const char* NoAudioFileOpened =
     QT_TRANSLATE_NOOP("Localizable", "No audio file opened");
 inline constexpr const char* Preferences = QT_TRANSLATE_NOOP("Localizable", "Preferences");
 inline constexpr const char* Help = QT_TRANSLATE_NOOP("Localizable", "Help");
-inline constexpr const char* HelpText = QT_TRANSLATE_NOOP(
-    "Localizable",
-    "Quick Help Guide:\n\n1. Open Audio File: Command + O\n2. Play/Pause: Enter\n3. Next Segment: "
-    "Down Arrow\n4. Previous Segment: Up Arrow\n5. Repeat Mode: Control+ R\n6. Save Dictation: "
-    "Command + S\n\nIf you have any questions, email me: support@kelmora.app.");
 inline constexpr const char* OK = QT_TRANSLATE_NOOP("Localizable", "OK");
 inline constexpr const char* Cancel = QT_TRANSLATE_NOOP("Localizable", "Cancel");
 inline constexpr const char* Save = QT_TRANSLATE_NOOP("Localizable", "Save");
@@ -119,21 +114,22 @@ inline constexpr const char* NoReleaseNotes =
     QT_TRANSLATE_NOOP("Localizable", "No release notes available");
 inline constexpr const char* Update = QT_TRANSLATE_NOOP("Localizable", "Update");
 
-// The window: menus, toolbar, tooltips, the analysis indicator
+// The window: menus (with their mnemonics; a translation places its own),
+// toolbar, tooltips, the analysis indicator
 inline constexpr const char* AudioFiles = QT_TRANSLATE_NOOP("Localizable", "Audio Files");
 inline constexpr const char* AnalysingAudio = QT_TRANSLATE_NOOP("Localizable", "Analysing audio");
 inline constexpr const char* Waveform = QT_TRANSLATE_NOOP("Localizable", "Waveform");
-inline constexpr const char* MenuFile = QT_TRANSLATE_NOOP("Localizable", "File");
-inline constexpr const char* MenuOpen = QT_TRANSLATE_NOOP("Localizable", "Open…");
-inline constexpr const char* MenuOpenRecent = QT_TRANSLATE_NOOP("Localizable", "Open Recent");
-inline constexpr const char* MenuClearRecent = QT_TRANSLATE_NOOP("Localizable", "Clear Menu");
-inline constexpr const char* MenuExport = QT_TRANSLATE_NOOP("Localizable", "Export Dictation…");
-inline constexpr const char* MenuQuit = QT_TRANSLATE_NOOP("Localizable", "Quit Kelmora");
-inline constexpr const char* MenuView = QT_TRANSLATE_NOOP("Localizable", "View");
-inline constexpr const char* MenuWindowSize = QT_TRANSLATE_NOOP("Localizable", "Window Size");
-inline constexpr const char* MenuPreferences = QT_TRANSLATE_NOOP("Localizable", "Preferences…");
-inline constexpr const char* MenuCheckForUpdates = QT_TRANSLATE_NOOP("Localizable", "Check for Updates…");
-inline constexpr const char* MenuKelmoraHelp = QT_TRANSLATE_NOOP("Localizable", "Kelmora Help");
+inline constexpr const char* MenuFile = QT_TRANSLATE_NOOP("Localizable", "&File");
+inline constexpr const char* MenuOpen = QT_TRANSLATE_NOOP("Localizable", "&Open…");
+inline constexpr const char* MenuOpenRecent = QT_TRANSLATE_NOOP("Localizable", "Open &Recent");
+inline constexpr const char* MenuClearRecent = QT_TRANSLATE_NOOP("Localizable", "&Clear Menu");
+inline constexpr const char* MenuExport = QT_TRANSLATE_NOOP("Localizable", "&Export Dictation…");
+inline constexpr const char* MenuQuit = QT_TRANSLATE_NOOP("Localizable", "&Quit Kelmora");
+inline constexpr const char* MenuView = QT_TRANSLATE_NOOP("Localizable", "&View");
+inline constexpr const char* MenuWindowSize = QT_TRANSLATE_NOOP("Localizable", "&Window Size");
+inline constexpr const char* MenuPreferences = QT_TRANSLATE_NOOP("Localizable", "&Preferences…");
+inline constexpr const char* MenuCheckForUpdates = QT_TRANSLATE_NOOP("Localizable", "&Check for Updates…");
+inline constexpr const char* MenuKelmoraHelp = QT_TRANSLATE_NOOP("Localizable", "Kelmora &Help");
 inline constexpr const char* ToolbarOpen = QT_TRANSLATE_NOOP("Localizable", "Open");
 inline constexpr const char* ToolbarPlayPause = QT_TRANSLATE_NOOP("Localizable", "Play/Pause");
 inline constexpr const char* ToolbarExport = QT_TRANSLATE_NOOP("Localizable", "Export");
@@ -157,7 +153,6 @@ inline constexpr std::array All = {AppName,
                                    NoAudioFileOpened,
                                    Preferences,
                                    Help,
-                                   HelpText,
                                    OK,
                                    Cancel,
                                    Save,
@@ -314,5 +309,43 @@ inline constexpr const char* StillAnalysing = QT_TRANSLATE_NOOP(
     "Localizable", "The lesson is still being analysed. Import the dictation once it has opened.");
 
 inline constexpr std::array SessionFiles = {TranscriptFiles, StillAnalysing};
+
+} // namespace Texts
+
+// Every command from the keyboard: the menus' further items, and the help
+// alert that names the keys in use.
+namespace Texts {
+
+inline constexpr const char* MenuEdit = QT_TRANSLATE_NOOP("Localizable", "&Edit");
+inline constexpr const char* MenuPlayback = QT_TRANSLATE_NOOP("Localizable", "&Playback");
+// The menu's title; "Help" alone stays the help alert's title.
+inline constexpr const char* MenuHelp = QT_TRANSLATE_NOOP("Localizable", "&Help");
+inline constexpr const char* MenuImportDictation =
+    QT_TRANSLATE_NOOP("Localizable", "&Import Dictation…");
+inline constexpr const char* MenuImportFromMusic =
+    QT_TRANSLATE_NOOP("Localizable", "Import from &Music Folder…");
+inline constexpr const char* MenuClearDictation =
+    QT_TRANSLATE_NOOP("Localizable", "&Clear Dictation…");
+inline constexpr const char* MenuPlayPause = QT_TRANSLATE_NOOP("Localizable", "&Play/Pause");
+inline constexpr const char* MenuPreviousSegment =
+    QT_TRANSLATE_NOOP("Localizable", "Pre&vious Segment");
+inline constexpr const char* MenuNextSegment = QT_TRANSLATE_NOOP("Localizable", "&Next Segment");
+inline constexpr const char* MenuRepeatMode = QT_TRANSLATE_NOOP("Localizable", "&Repeat Mode");
+inline constexpr const char* MenuFirstSegment = QT_TRANSLATE_NOOP("Localizable", "&First Segment");
+inline constexpr const char* MenuSplitAudio =
+    QT_TRANSLATE_NOOP("Localizable", "&Split the Audio Again");
+// The keys are filled in as they are bound now: open, play/pause, next,
+// previous, repeat, first segment, split, export.
+inline constexpr const char* HelpGuide = QT_TRANSLATE_NOOP(
+    "Localizable",
+    "Quick Help Guide:\n\n1. Open Audio File: %@\n2. Play/Pause: %@\n3. Next Segment: %@\n4. "
+    "Previous Segment: %@\n5. Repeat Mode: %@\n6. First Segment: %@\n7. Split the Audio Again: "
+    "%@\n8. Export Dictation: %@\n\nIf you have any questions, email me: support@kelmora.app.");
+
+inline constexpr std::array KeyboardCommands = {
+    MenuEdit,         MenuPlayback,        MenuHelp,        MenuImportDictation,
+    MenuImportFromMusic, MenuClearDictation, MenuPlayPause, MenuPreviousSegment,
+    MenuNextSegment,  MenuRepeatMode,      MenuFirstSegment, MenuSplitAudio,
+    HelpGuide};
 
 } // namespace Texts

@@ -4,8 +4,10 @@
 #include "preferences/Keyboard.h"
 #include "preferences/KeyboardShortcut.h"
 
+#include <QHash>
 #include <QKeyEvent>
 #include <array>
+#include <string_view>
 
 namespace {
 
@@ -240,4 +242,52 @@ KeyStroke Keyboard::keyStrokeFor(int qtKey, Qt::KeyboardModifiers modifiers,
 KeyStroke Keyboard::keyStrokeForEvent(const QKeyEvent& event)
 {
     return keyStrokeFor(event.key(), event.modifiers(), event.nativeVirtualKey());
+}
+
+int Keyboard::qtKeyForKeyCode(qint64 keyCode, bool* keypad)
+{
+    struct Entry
+    {
+        int key;
+        bool keypad;
+    };
+    // Built once by running the translation above over the keys that can
+    // name a code; the first key to reach a code names it.
+    static const QHash<qint64, Entry> keys = [] {
+        QHash<qint64, Entry> table;
+        auto add = [&table](int key, bool onKeypad) {
+            const qint64 code =
+                keyStrokeFor(key, onKeypad ? Qt::KeypadModifier : Qt::NoModifier).keyCode;
+            if (code >= 0 && !table.contains(code))
+                table.insert(code, {key, onKeypad});
+        };
+        // What the keys of the US layout type without Shift, so that code 41
+        // is ";" and not ":".
+        for (char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789=-][';\\,./` "))
+            add(c, false);
+        for (int key = Qt::Key_Escape; key < Qt::Key_Escape + kSpecialSpan; ++key) {
+            if (specialKeyCode(key, 0) >= 0)
+                add(key, false);
+        }
+        for (char c : std::string_view("0123456789.*+/-="))
+            add(c, true);
+        return table;
+    }();
+
+    bool onKeypad = false;
+    int key = 0;
+    if (const auto it = keys.constFind(keyCode); it != keys.cend()) {
+        key = it->key;
+        onKeypad = it->keypad;
+    } else if (keyCode >= kSpecialBase && keyCode < kSpecialBase + kSpecialSpan) {
+        key = Qt::Key_Escape + int(keyCode - kSpecialBase);
+    } else if (keyCode >= kCharacterBase && keyCode < kCharacterBase + kCharacterLimit) {
+        key = int(keyCode - kCharacterBase);
+    }
+    // An extra code names a key only when that key really comes back to it.
+    if (key != 0 && !onKeypad && keyStrokeFor(key, Qt::NoModifier).keyCode != keyCode)
+        key = 0;
+    if (keypad)
+        *keypad = onKeypad;
+    return key;
 }

@@ -30,20 +30,26 @@ public:
         KeyReturn = 36,
         KeySlash = 44,
         KeyF2 = 120,
+        KeyF10 = 109,
         KeyDownArrow = 125,
         KeyUpArrow = 126,
         // Keys with no code in that numbering are given codes from here upward.
         FirstExtraCode = 127,
     };
 
-    // The key's name ("R", "Return", "↑", "F2"); "Key %ld" for a code the name
-    // table lacks and for every code from 127 upward.
+    // The key's name as Linux desktops write it ("R", "Return", "Up", "F2",
+    // "Num+5"), in the words Qt uses for its own menus; "Key %ld" for a code
+    // that names no key.
     static QString keyCodeToString(qint64 keyCode);
 
-    // At most one symbol, the first set in the order Control "⌃", Option "⌥",
-    // Shift "⇧", Command "⌘"; empty when none is set. The stored value keeps
-    // every bit; only the display is reduced.
+    // Every modifier that is set, each followed by "+", in the order Qt's
+    // menus use: "Super+", "Ctrl+", "Alt+", "Shift+" (Command is the Super
+    // key here, Option is Alt); empty when none is set.
     static QString modifierFlagsToString(quint64 modifierFlags);
+
+    // What a learner reads for a shortcut: the modifiers, then the key
+    // ("Ctrl+R", "Shift+N", "Down"); empty for key code -1.
+    static QString shortcutText(qint64 keyCode, quint64 modifierFlags);
 
     // True for the Command, Shift, Option and Control keys, left and right
     // (54, 55, 56, 58, 59, 60, 61, 62); Caps Lock (57) and Fn (63) are not.
@@ -57,4 +63,7 @@ public:
     static KeyStroke keyStrokeForEvent(const QKeyEvent& event);
     static KeyStroke keyStrokeFor(int qtKey, Qt::KeyboardModifiers modifiers,
                                   quint32 nativeVirtualKey = 0);
+    // The way back, for names: a Qt key that translates to the code (with
+    // *keypad telling whether it is the keypad's), or 0 when none does.
+    static int qtKeyForKeyCode(qint64 keyCode, bool* keypad = nullptr);
 };

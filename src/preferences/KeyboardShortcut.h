@@ -40,7 +40,7 @@ public:
     // comes from shortcutDisplayString().
     QString displayString() const { return {}; }
 
-    // The modifier symbol followed by the key name ("⌃R"); empty for key code 0.
+    // The modifiers followed by the key name ("Ctrl+R"); empty for key code 0.
     // Key code 0 is the A key, so a plain A shortcut shows nothing here, unlike
     // the recording field, which shows "A".
     QString shortcutDisplayString() const;

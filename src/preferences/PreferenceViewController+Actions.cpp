@@ -24,6 +24,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -99,8 +100,9 @@ void PreferenceViewController::showStatusBarChanged(bool on)
 void PreferenceViewController::languageChanged(int index)
 {
     const QString code = m_languagePopUpButton->itemData(index).toString();
-    // Choosing the language already chosen needs no restart.
-    if (code.isEmpty() || code == m_language.currentLanguage())
+    // Choosing the language the learner already has needs no restart; with
+    // nothing chosen yet that is the one the window shows, not English.
+    if (code.isEmpty() || code == m_language.interfaceLanguage())
         return;
     m_language.changeLanguage(code);
     restartApp();
@@ -108,7 +110,12 @@ void PreferenceViewController::languageChanged(int index)
 
 void PreferenceViewController::showFontPanel()
 {
-    auto* dialog = new QFontDialog(m_font, this);
+    // The panel lists real families: a stored family that stands for another
+    // ("Menlo" for the desktop's fixed-width font) would open it on the first
+    // family of the list.
+    QFont shown = m_font;
+    shown.setFamily(QFontInfo(m_font).family());
+    auto* dialog = new QFontDialog(shown, this);
     dialog->setObjectName(QStringLiteral("fontDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);

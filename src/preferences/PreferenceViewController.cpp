@@ -14,10 +14,12 @@
 #include "preferences/RepeatTimesSpinBox.h"
 #include "preferences/ShortcutTextField.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -91,13 +93,34 @@ void PreferenceViewController::setupUI()
     // A click on an empty part of the window takes the focus, which ends a
     // shortcut field's recording.
     setFocusPolicy(Qt::ClickFocus);
+
+    // Escape and Ctrl+W close the window, as they close a desktop's settings
+    // windows. A recording shortcut field takes every key first, Escape too.
+    auto* closeWindow = new QAction(this);
+    closeWindow->setObjectName(QStringLiteral("closePreferences"));
+    QList<QKeySequence> keys{QKeySequence(Qt::Key_Escape)};
+    keys += QKeySequence::keyBindings(QKeySequence::Close);
+    closeWindow->setShortcuts(keys);
+    closeWindow->setShortcutContext(Qt::WindowShortcut);
+    connect(closeWindow, &QAction::triggered, this, &QWidget::close);
+    addAction(closeWindow);
 }
 
 QWidget* PreferenceViewController::buildGeneralTab()
 {
     auto* page = new QWidget;
     page->setFocusPolicy(Qt::ClickFocus);
-    QFormLayout* form = makeForm(page);
+    // A grid, not a form: a long label (Russian, German) wraps onto more
+    // lines and its spin box stays beside it, at the page's right edge.
+    auto* grid = new QGridLayout(page);
+    grid->setColumnStretch(0, 1);
+    int row = 0;
+    auto addRow = [grid, &row](const char* text, QWidget* control) {
+        QLabel* label = buddyLabel(text, control);
+        label->setWordWrap(true);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(control, row++, 1);
+    };
 
     m_minSegmentDurationStepper = new QDoubleSpinBox;
     m_minSegmentDurationStepper->setObjectName(QStringLiteral("minSegmentDurationStepper"));
@@ -109,8 +132,7 @@ QWidget* PreferenceViewController::buildGeneralTab()
     m_minSegmentDurationStepper->setKeyboardTracking(false);
     connect(m_minSegmentDurationStepper, &QDoubleSpinBox::valueChanged, this,
             &PreferenceViewController::stepperValueChanged);
-    form->addRow(buddyLabel(Texts::MinSegmentDurationLabel, m_minSegmentDurationStepper),
-                 m_minSegmentDurationStepper);
+    addRow(Texts::MinSegmentDurationLabel, m_minSegmentDurationStepper);
 
     m_playSpeedStepper = new QDoubleSpinBox;
     m_playSpeedStepper->setObjectName(QStringLiteral("playSpeedStepper"));
@@ -121,7 +143,7 @@ QWidget* PreferenceViewController::buildGeneralTab()
     m_playSpeedStepper->setKeyboardTracking(false);
     connect(m_playSpeedStepper, &QDoubleSpinBox::valueChanged, this,
             &PreferenceViewController::playSpeedStepperValueChanged);
-    form->addRow(buddyLabel(Texts::PlaySpeedLabel, m_playSpeedStepper), m_playSpeedStepper);
+    addRow(Texts::PlaySpeedLabel, m_playSpeedStepper);
 
     m_repeatPlayTimesStepper = new RepeatTimesSpinBox;
     m_repeatPlayTimesStepper->setObjectName(QStringLiteral("repeatPlayTimesStepper"));
@@ -130,19 +152,22 @@ QWidget* PreferenceViewController::buildGeneralTab()
     m_repeatPlayTimesStepper->setKeyboardTracking(false);
     connect(m_repeatPlayTimesStepper, &QSpinBox::valueChanged, this,
             &PreferenceViewController::repeatPlayTimesStepperValueChanged);
-    form->addRow(buddyLabel(Texts::RepeatTimesLabel, m_repeatPlayTimesStepper),
-                 m_repeatPlayTimesStepper);
+    addRow(Texts::RepeatTimesLabel, m_repeatPlayTimesStepper);
 
     m_languagePopUpButton = new QComboBox;
     m_languagePopUpButton->setObjectName(QStringLiteral("languagePopUpButton"));
     fillLanguagePopUp();
     connect(m_languagePopUpButton, &QComboBox::activated, this,
             &PreferenceViewController::languageChanged);
-    form->addRow(buddyLabel(Texts::LanguageLabel, m_languagePopUpButton), m_languagePopUpButton);
+    // Under its label, with the width of the page: each language is named
+    // twice ("Русский — Russian"), which a field beside the label cuts off.
+    grid->addWidget(buddyLabel(Texts::LanguageLabel, m_languagePopUpButton), row++, 0, 1, 2);
+    grid->addWidget(m_languagePopUpButton, row++, 0, 1, 2, Qt::AlignLeft);
     auto* note = new QLabel(LocalizedString(Texts::LanguageRestartNote));
     note->setWordWrap(true);
     note->setForegroundRole(QPalette::PlaceholderText);
-    form->addRow(note);
+    grid->addWidget(note, row++, 0, 1, 2);
+    grid->setRowStretch(row, 1);
     return page;
 }
 
@@ -227,10 +252,16 @@ void PreferenceViewController::fillLanguagePopUp()
 {
     const QSignalBlocker blocker(m_languagePopUpButton);
     m_languagePopUpButton->clear();
-    for (const LanguageManager::Language& language : LanguageManager::supportedLanguages())
-        m_languagePopUpButton->addItem(LocalizedString(language.englishName),
-                                       QString::fromLatin1(language.code));
-    selectLanguageItem(m_language.currentLanguage());
+    // Each language in its own words first, so a learner finds theirs in an
+    // interface they cannot read; then in the interface's words.
+    for (const LanguageManager::Language& language : LanguageManager::supportedLanguages()) {
+        const QString code = QString::fromLatin1(language.code);
+        const QString own = m_language.nativeLanguageName(code);
+        const QString here = LocalizedString(language.englishName);
+        m_languagePopUpButton->addItem(own == here ? own : own + QStringLiteral(" — ") + here,
+                                       code);
+    }
+    selectLanguageItem(m_language.interfaceLanguage());
 }
 
 void PreferenceViewController::selectLanguageItem(const QString& code)
@@ -273,7 +304,7 @@ void PreferenceViewController::loadCurrentSettings()
             storage.keyboardShortcutForKey(binding.defaultsKey).value_or(binding.defaultShortcut);
         m_shortcutFields[i]->setShortcut(shortcut.keyCode(), shortcut.modifierFlags());
     }
-    selectLanguageItem(m_language.currentLanguage());
+    selectLanguageItem(m_language.interfaceLanguage());
     printPreference();
 }
 

@@ -40,11 +40,7 @@ void ShortcutTextField::setShortcut(qint64 keyCode, quint64 modifierFlags)
 
 void ShortcutTextField::updateShortcutDisplay()
 {
-    if (m_keyCode == -1) {
-        setText(QString());
-        return;
-    }
-    setText(Keyboard::modifierFlagsToString(m_modifierFlags) + Keyboard::keyCodeToString(m_keyCode));
+    setText(Keyboard::shortcutText(m_keyCode, m_modifierFlags));
 }
 
 void ShortcutTextField::focusInEvent(QFocusEvent* event)

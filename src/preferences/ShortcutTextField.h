@@ -25,7 +25,7 @@ public:
 
     bool isRecording() const { return m_recording; }
 
-    // The modifier symbol and key name ("⇧R"); empty for key code -1. Key
+    // The modifiers and the key name ("Shift+R"); empty for key code -1. Key
     // code 0 shows "A" here.
     void updateShortcutDisplay();
 

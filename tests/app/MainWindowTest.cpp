@@ -1,14 +1,22 @@
 // The main window offscreen: opening a lesson through the direct road, what a
-// failed opening leaves behind, the three areas, the close prompt, and the
-// screenshot a person looks at (the other languages' are the language tests').
+// failed opening leaves behind, the three areas, the close prompt, the menus
+// and their keys, and the screenshot a person looks at (the other languages'
+// are the language tests').
 
+#include "app/AppDelegate.h"
 #include "app/MainWindowController.h"
 #include "app/RecentDocuments.h"
 #include "app/ViewController.h"
 #include "app/WindowHarness.h"
 #include "audio/AudioManager.h"
+#include "localization/LanguageManager.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+#include "preferences/Keyboard.h"
+#include "preferences/ObjectStorage.h"
+#include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
 #include "views/TranscriptionTableView.h"
 #include "views/WaveformView.h"
@@ -19,15 +27,43 @@
 #include <QFileDialog>
 #include <QGraphicsOpacityEffect>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QScreen>
+#include <QSet>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <gtest/gtest.h>
 
 using TestSupport::fixture;
 
-TEST(MainWindow, StartsEmptyWithTheLaunchText)
+namespace {
+
+// The commands that need a lesson, toolbar items and menu items alike.
+const char* const kLessonCommands[] = {
+    "playPause",       "repeatMode",          "export",          "import",
+    "clear",           "menuImportDictation", "menuExport",      "menuClearDictation",
+    "menuPlayPause",   "menuPreviousSegment", "menuNextSegment", "menuRepeatMode",
+    "menuFirstSegment", "menuSplitAudio"};
+
+QStringList enabledCommands(MainWindowController& window, bool enabled)
+{
+    QStringList names;
+    for (const char* name : kLessonCommands) {
+        auto* action = window.findChild<QAction*>(QLatin1String(name));
+        if (!action)
+            names << QStringLiteral("(missing) ") + QLatin1String(name);
+        else if (action->isEnabled() == enabled)
+            names << QLatin1String(name);
+    }
+    return names;
+}
+
+} // namespace
+
+TEST(MainWindow, StartsEmptyWithTheLaunchTextAndTheLessonCommandsDisabled)
 {
     WindowHarness h;
     EXPECT_EQ(h.window().windowTitle(), "Kelmora");
@@ -35,6 +71,30 @@ TEST(MainWindow, StartsEmptyWithTheLaunchText)
     EXPECT_EQ(h.session().transcriptionTableView()->model()->rowCount(), 0);
     EXPECT_TRUE(h.session().waveformView()->segments().isEmpty());
     ASSERT_NE(h.window().findChild<QAction*>("repeatMode"), nullptr);
+
+    EXPECT_EQ(enabledCommands(h.window(), true), QStringList());
+    for (const char* name : {"open", "settings", "importFromMusicLibrary", "menuOpen",
+                             "menuImportFromMusic", "menuPreferences", "menuQuit",
+                             "menuKelmoraHelp", "menuCheckForUpdates"}) {
+        auto* action = h.window().findChild<QAction*>(QLatin1String(name));
+        ASSERT_NE(action, nullptr) << name;
+        EXPECT_TRUE(action->isEnabled()) << name;
+    }
+    // Every toolbar command is a menu item too.
+    const QList<QPair<const char*, const char*>> twins = {
+        {"open", "menuOpen"},         {"playPause", "menuPlayPause"},
+        {"repeatMode", "menuRepeatMode"}, {"export", "menuExport"},
+        {"settings", "menuPreferences"}, {"import", "menuImportDictation"},
+        {"clear", "menuClearDictation"}, {"importFromMusicLibrary", "menuImportFromMusic"}};
+    auto* toolbar = h.window().findChild<QToolBar*>(QStringLiteral("mainToolbar"));
+    ASSERT_NE(toolbar, nullptr);
+    ASSERT_EQ(toolbar->actions().size(), twins.size());
+    for (const auto& [tool, menuItem] : twins) {
+        EXPECT_NE(h.window().findChild<QAction*>(QLatin1String(tool)), nullptr) << tool;
+        auto* item = h.window().findChild<QAction*>(QLatin1String(menuItem));
+        ASSERT_NE(item, nullptr) << menuItem;
+        EXPECT_FALSE(item->associatedObjects().isEmpty()) << menuItem << " is in no menu";
+    }
 }
 
 TEST(MainWindow, OpensALessonShowsItsSegmentsAndPlaysTheFirst)
@@ -56,6 +116,9 @@ TEST(MainWindow, OpensALessonShowsItsSegmentsAndPlaysTheFirst)
     EXPECT_TRUE(h.engine().isPlaying());
     EXPECT_EQ(h.engine().currentSegmentIndex(), 0);
     EXPECT_EQ(RecentDocuments(h.defaults()).paths().value(0), fixture("speech.mp3"));
+
+    // The commands that need a lesson are there now.
+    EXPECT_EQ(enabledCommands(h.window(), false), QStringList());
 
     const QString status = h.session().statusText();
     EXPECT_TRUE(status.startsWith(fixture("speech.mp3") + " | MP3: ")) << status.toStdString();
@@ -335,4 +398,143 @@ TEST(ClosePrompt, CancellingTheSavePanelKeepsTheWindowOpen)
     EXPECT_TRUE(h.window().isVisible());
     EXPECT_TRUE(h.engine().isPlaying());
     EXPECT_GT(h.session().transcriptionTableView()->model()->rowCount(), 0);
+}
+
+namespace {
+
+QMenu* menu(MainWindowController& window, const char* name)
+{
+    return window.findChild<QMenu*>(QLatin1String(name));
+}
+
+// Closes the open menus. The offscreen platform leaves a closed menu the
+// active window, where a desktop gives the main window back its activation.
+void closeMenus(QWidget& window)
+{
+    while (QWidget* popup = QApplication::activePopupWidget())
+        QTest::keyClick(popup, Qt::Key_Escape);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+QStringList itemTexts(QMenu* menu)
+{
+    QStringList texts;
+    for (QAction* action : menu->actions()) {
+        if (!action->isSeparator())
+            texts << action->text();
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST(MainWindowMenus, F10AndMnemonicsOpenTheMenusAndPlaybackShowsTheKeysBoundNow)
+{
+    WindowHarness h;
+    h.window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&h.window()));
+    QStringList titles;
+    for (QAction* action : h.window().menuBar()->actions())
+        titles << action->text();
+    EXPECT_EQ(titles, (QStringList{"&File", "&Edit", "&View", "&Playback", "&Help"}));
+
+    // F10 opens the first menu.
+    QTest::keyClick(&h.window(), Qt::Key_F10);
+    ASSERT_TRUE(waitFor([&] { return menu(h.window(), "menuFile")->isVisible(); }, 2000));
+    EXPECT_EQ(itemTexts(menu(h.window(), "menuFile")),
+              (QStringList{"&Open…", "Open &Recent", "&Import Dictation…",
+                           "Import from &Music Folder…", "&Export Dictation…", "&Quit Kelmora"}));
+    // The menus print Qt's own keys the way the six are printed.
+    EXPECT_EQ(h.window().findChild<QAction*>("menuOpen")->shortcut().toString(
+                  QKeySequence::NativeText),
+              Keyboard::shortcutText(31, ModifierFlag::Control));
+    closeMenus(h.window());
+
+    // Alt+P: the Playback menu, each command with the key bound to it now.
+    QTest::keyClick(&h.window(), Qt::Key_P, Qt::AltModifier);
+    QMenu* playback = menu(h.window(), "menuPlayback");
+    ASSERT_TRUE(waitFor([&] { return playback->isVisible(); }, 2000));
+    EXPECT_EQ(itemTexts(playback),
+              (QStringList{"&Play/Pause\tReturn", "Pre&vious Segment\tUp", "&Next Segment\tDown",
+                           "&Repeat Mode\tCtrl+R", "&First Segment\tCtrl+/",
+                           "&Split the Audio Again\tF2"}));
+    closeMenus(h.window());
+
+    ObjectStorage(h.defaults())
+        .setKeyboardShortcut(KeyboardShortcut(45, ModifierFlag::Shift),
+                             PreferenceKeys::NextSegmentShortcut);
+    ASSERT_TRUE(h.open(fixture("speech.wav")));
+    ASSERT_GT(h.engine().numberOfSegments(), 1);
+    QTest::keyClick(&h.window(), Qt::Key_P, Qt::AltModifier);
+    ASSERT_TRUE(waitFor([&] { return playback->isVisible(); }, 2000));
+    EXPECT_EQ(itemTexts(playback).value(2), "&Next Segment\tShift+N");
+    // A letter in the open menu runs its command: N, the next segment.
+    QTest::keyClick(playback, Qt::Key_N);
+    EXPECT_FALSE(playback->isVisible());
+    EXPECT_EQ(h.session().currentSegmentIndex(), 1);
+
+    // F10 bound to one of the six runs that command instead.
+    closeMenus(h.window());
+    ObjectStorage(h.defaults())
+        .setKeyboardShortcut(KeyboardShortcut(Keyboard::KeyF10, 0),
+                             PreferenceKeys::NextSegmentShortcut);
+    QTest::keyClick(&h.window(), Qt::Key_F10);
+    EXPECT_EQ(h.session().currentSegmentIndex(), 2);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST(MainWindowMenus, EveryMenuItemHasAMnemonicOfItsOwnInEveryLanguage)
+{
+    for (const auto& language : LanguageManager::supportedLanguages()) {
+        SCOPED_TRACE(language.code);
+        WindowHarness h{QString::fromLatin1(language.code)};
+        QList<QList<QAction*>> menus{h.window().menuBar()->actions()};
+        for (QAction* title : h.window().menuBar()->actions())
+            menus << title->menu()->actions();
+        for (const QList<QAction*>& items : menus) {
+            QSet<int> keys;
+            for (QAction* item : items) {
+                if (item->isSeparator())
+                    continue;
+                const QString text = item->text().section(QLatin1Char('\t'), 0, 0);
+                const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+                EXPECT_FALSE(mnemonic.isEmpty()) << text.toStdString();
+                if (mnemonic.isEmpty())
+                    continue;
+                EXPECT_FALSE(keys.contains(mnemonic[0].toCombined()))
+                    << text.toStdString() << " shares its key";
+                keys.insert(mnemonic[0].toCombined());
+            }
+        }
+        if (QLatin1String(language.code) != QLatin1String("en")) {
+            EXPECT_NE(h.window().menuBar()->actions().value(0)->text(), "&File");
+        }
+    }
+}
+
+TEST(MainWindowMenus, TheHelpAlertNamesTheKeysBoundNowAndInforms)
+{
+    WindowHarness h;
+    EXPECT_EQ(AppDelegate::localizedHelpText(h.defaults()),
+              "Quick Help Guide:\n\n1. Open Audio File: Ctrl+O\n2. Play/Pause: Return\n"
+              "3. Next Segment: Down\n4. Previous Segment: Up\n5. Repeat Mode: Ctrl+R\n"
+              "6. First Segment: Ctrl+/\n7. Split the Audio Again: F2\n"
+              "8. Export Dictation: Ctrl+S\n\nIf you have any questions, email me: "
+              "support@kelmora.app.");
+    if (!AppDelegate::helpPagePath().isEmpty())
+        GTEST_SKIP() << "a help page is installed here; the alert is its fall-back";
+
+    ObjectStorage(h.defaults())
+        .setKeyboardShortcut(KeyboardShortcut(49, ModifierFlag::Control | ModifierFlag::Shift),
+                             PreferenceKeys::PlayPauseShortcut);
+    AppDelegate delegate(h.services());
+    AlertAnswerer answerer(LocalizedString(Texts::OK));
+    delegate.showHelp();
+    ASSERT_EQ(answerer.seen().size(), 1);
+    EXPECT_EQ(answerer.seen()[0].title, "Help");
+    EXPECT_EQ(answerer.seen()[0].icon, QMessageBox::Information);
+    EXPECT_TRUE(answerer.seen()[0].informativeText.contains("2. Play/Pause: Ctrl+Shift+Space\n"))
+        << answerer.seen()[0].informativeText.toStdString();
+    EXPECT_EQ(answerer.seen()[0].buttons, QStringList{"OK"});
 }

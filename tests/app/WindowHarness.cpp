@@ -82,6 +82,11 @@ QString WindowHarness::storePath()
                       : QString();
 }
 
+SessionServices WindowHarness::services()
+{
+    return {*m_engine, *m_center, m_defaults.store(), *m_transcriptions, *m_documents, *m_autoSave};
+}
+
 ViewController& WindowHarness::session()
 {
     return *m_window->viewController();
@@ -133,6 +138,7 @@ AlertAnswerer::AlertAnswerer(const QString& buttonText)
             if (!box || !box->isVisible() || box->property("kelmoraAnswered").toBool())
                 continue;
             AlertSeen seen{box->windowTitle(), box->text(), box->informativeText(), {}};
+            seen.icon = box->icon();
             QAbstractButton* chosen = nullptr;
             for (QAbstractButton* button : box->buttons()) {
                 seen.buttons << button->text();

@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QList>
+#include <QMessageBox>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
@@ -38,6 +39,8 @@ public:
     Defaults& defaults() { return m_defaults.store(); }
     QString documentsPath() const { return m_documentsDir.path(); }
     AutoSaveQueue& autoSave() { return *m_autoSave; }
+    // The parts the window runs on, for an application delegate of a test's own.
+    SessionServices services();
     // Runs the engine's and the session's timers on the given clock.
     void setClock(Clock& clock);
     // The auto-save's clock, which moves only when a test moves it (it starts
@@ -76,6 +79,7 @@ struct AlertSeen
     QString text;
     QString informativeText;
     QStringList buttons;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
 };
 
 // Answers every alert (a QMessageBox) that appears while it lives by pressing

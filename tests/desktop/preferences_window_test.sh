@@ -57,7 +57,7 @@ sleep 0.3
 kill -0 "$app" 2>/dev/null || fail "Ctrl+Q quit while a field recorded"
 xdotool key shift+n
 shown="$(probe text 'Next segment')"
-[ "$shown" = "⇧N" ] || fail "the field shows '$shown'"
+[ "$shown" = "Shift+N" ] || fail "the field shows '$shown'"
 echo "next segment field: $shown (Ctrl+Q ignored)"
 
 # Without a window manager Xvfb's root picture leaves a second window black;

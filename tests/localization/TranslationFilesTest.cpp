@@ -88,6 +88,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::PreferencesWindow.begin(), Texts::PreferencesWindow.end()));
     texts.append(QList<const char*>(Texts::SessionFiles.begin(), Texts::SessionFiles.end()));
     texts.append(QList<const char*>(Texts::EmptyWindow.begin(), Texts::EmptyWindow.end()));
+    texts.append(QList<const char*>(Texts::KeyboardCommands.begin(), Texts::KeyboardCommands.end()));
     return texts;
 }
 

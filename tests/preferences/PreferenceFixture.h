@@ -33,7 +33,9 @@ struct PreferenceFixture
     QStringList posted;
     QVariantList objects;
 
-    explicit PreferenceFixture(const std::function<void(Defaults&)>& before = {})
+    // The desktop's languages are English unless a test names others.
+    explicit PreferenceFixture(const std::function<void(Defaults&)>& before = {},
+                               const QStringList& systemLanguages = {QStringLiteral("en-US")})
     {
         regDefaultPreference(defaults.store());
         if (before)
@@ -43,6 +45,7 @@ struct PreferenceFixture
             [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
         bundle = std::make_unique<LanguageBundle>(defaults.store());
         language = std::make_unique<LanguageManager>(defaults.store(), center, *bundle);
+        language->setSystemLanguages(systemLanguages);
         window = std::make_unique<PreferenceViewController>(*engine, defaults.store(), center,
                                                             *language);
         for (const char* name : {Notifications::TableBackgroundColorDidChange,

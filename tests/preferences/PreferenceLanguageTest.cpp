@@ -3,6 +3,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/AutoSaveQueue.h"
+#include "app/FileIdentity.h"
 #include "app/MainWindowController.h"
 #include "app/ViewController.h"
 #include "app/WindowHarness.h"
@@ -14,8 +15,10 @@
 #include "preferences/PreferenceKeys.h"
 #include "transcript/DocumentManager.h"
 #include "transcript/TranscriptionManager.h"
+#include "views/TranscriptionTableView.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
 #include <QDir>
@@ -54,6 +57,7 @@ struct DelegateFixture
             [e = engine.get()] { return e->getTotalDuration(); });
         delegate = std::make_unique<AppDelegate>(SessionServices{
             *engine, center, defaults.store(), *transcriptions, documents, autoSave});
+        language.setSystemLanguages({QStringLiteral("en-US")});
         delegate->setLanguageManager(language);
         delegate->setProcessStarter([this](const QString& program, const QStringList& arguments) {
             started << (QStringList{program} + arguments);
@@ -112,10 +116,40 @@ TEST(LanguageSwitching, LaterKeepsRunningAndRestartNowStartsAgainOnceTheWindowHa
     ASSERT_TRUE(answerer.waitForAlerts(1));
     ASSERT_TRUE(waitFor([&] { return !f.started.isEmpty(); }));
     EXPECT_EQ(f.language.currentLanguage(), "es");
-    EXPECT_EQ(f.started, (QList<QStringList>{QStringList{QCoreApplication::applicationFilePath()} +
-                                              QCoreApplication::arguments().mid(1)}));
+    // No lesson was open: nothing from the first command line comes back.
+    EXPECT_EQ(f.started, QList<QStringList>{QStringList{QCoreApplication::applicationFilePath()}});
     EXPECT_FALSE(main->isVisible());
     EXPECT_FALSE(window->isVisible());
+}
+
+TEST(LanguageSwitching, WithNothingChosenTheListShowsTheDesktopsLanguageAndEnglishCanBeChosen)
+{
+    // A German desktop; the learner never chose a language.
+    PreferenceFixture f({}, {QStringLiteral("de-DE"), QStringLiteral("en-US")});
+    auto* languages = f.control<QComboBox>("languagePopUpButton");
+    EXPECT_EQ(languages->currentData().toString(), "de");
+    auto choose = [&](const char* code) {
+        languages->setCurrentIndex(languages->findData(QString::fromLatin1(code)));
+        emit languages->activated(languages->currentIndex());
+    };
+    {
+        // What the window already shows asks for nothing and stores nothing.
+        AlertAnswerer answerer(LocalizedString(Texts::Later));
+        choose("de");
+        TestSupport::processEvents();
+        EXPECT_TRUE(answerer.seen().isEmpty());
+        EXPECT_TRUE(f.posted.isEmpty());
+        EXPECT_TRUE(f.defaults.store().stringForKey(PreferenceKeys::AppLanguage).isEmpty());
+    }
+    AlertAnswerer answerer(LocalizedString(Texts::Later));
+    choose("en");
+    ASSERT_TRUE(answerer.waitForAlerts(1));
+    EXPECT_EQ(answerer.seen()[0].informativeText,
+              "Please restart the app to apply the new language.");
+    EXPECT_EQ(f.defaults.store().stringForKey(PreferenceKeys::AppLanguage), "en");
+    EXPECT_EQ(f.posted, QStringList{"LanguageDidChangeNotification"});
+    EXPECT_EQ(f.language->startupLanguage(), "en"); // the next start is in English
+    EXPECT_EQ(languages->currentData().toString(), "en");
 }
 
 TEST(LanguageSwitching, ACancelledSavePromptCancelsTheRestart)
@@ -138,6 +172,33 @@ TEST(LanguageSwitching, ACancelledSavePromptCancelsTheRestart)
     main->close();
     ASSERT_TRUE(waitFor([&] { return !main->isVisible(); }));
     EXPECT_TRUE(f.started.isEmpty());
+}
+
+TEST(LanguageSwitching, RestartNowReopensTheLessonWithTheTypingOfTheLastMomentSaved)
+{
+    DelegateFixture f;
+    MainWindowController* main = f.delegate->mainWindowController();
+    ASSERT_NE(main, nullptr);
+    ViewController* session = main->viewController();
+    const QString lesson = fixture("speech.wav");
+    f.delegate->applicationOpenFile(lesson);
+    ASSERT_TRUE(waitFor([&] { return session->hasSegmentsShown(); }, 60000));
+    // A save has just run, so the throttle would hold the next one back.
+    session->autoSaveTranscription();
+    f.autoSave.waitForDone();
+    ASSERT_TRUE(f.autoSave.isThrottled());
+    session->transcriptionTableView()->updateTranscription(QStringLiteral("Guten Tag"), 0);
+
+    AlertAnswerer answerer(LocalizedString(Texts::DontSave));
+    f.delegate->restartApp();
+    ASSERT_TRUE(waitFor([&] { return !f.started.isEmpty(); }));
+    // The new window gets the lesson the learner had open, not the first
+    // command line, and finds the typing in the store.
+    const QList<QStringList> expected{{QCoreApplication::applicationFilePath(), lesson}};
+    EXPECT_EQ(f.started, expected);
+    const QString store = FileIdentity::transcriptionPathForIdentifier(
+        FileIdentity::uniqueIdentifierForFileAtPath(lesson).value_or(QString()), f.documents);
+    EXPECT_TRUE(TestSupport::readFile(store).contains("]Guten Tag"));
 }
 
 namespace {
@@ -192,6 +253,19 @@ TEST(LanguageSwitching, BothWindowsInFourLanguagesShowEveryTextWhole)
             EXPECT_NE(window.windowTitle(), "Preferences");
             EXPECT_NE(open->text(), "Open");
         }
+        // The list names each language in its own words, then in the
+        // interface's; the interface's own language once.
+        auto* languages = window.findChild<QComboBox*>(QStringLiteral("languagePopUpButton"));
+        const int own = languages->findData(QString::fromLatin1(language));
+        EXPECT_EQ(languages->currentIndex(), own);
+        EXPECT_EQ(languages->itemText(own), manager.nativeLanguageName(language));
+        EXPECT_EQ(languages->itemText(0),
+                  own == 0 ? QStringLiteral("English")
+                           : QStringLiteral("English — ") + LocalizedString(Texts::English));
+        if (QLatin1String(language) == QLatin1String("ru")) {
+            EXPECT_EQ(languages->itemText(own), QString::fromUtf8("Русский"));
+        }
+
         auto* tabWidget = window.findChild<QTabWidget*>();
         // All three tabs fit side by side: no scroll arrows.
         EXPECT_LE(tabWidget->tabBar()->sizeHint().width(), tabWidget->width());
@@ -199,10 +273,22 @@ TEST(LanguageSwitching, BothWindowsInFourLanguagesShowEveryTextWhole)
             tabWidget->setCurrentIndex(i);
             QApplication::processEvents();
             EXPECT_EQ(clippedTexts(&window).join(" | ").toStdString(), "") << "tab " << i;
+            // Every spin box sits on its label's line, right of it.
+            for (QLabel* label : tabWidget->currentWidget()->findChildren<QLabel*>()) {
+                const QWidget* control = label->buddy();
+                if (!qobject_cast<const QAbstractSpinBox*>(control))
+                    continue;
+                const QRect l = label->geometry(), c = control->geometry();
+                EXPECT_TRUE(c.top() < l.bottom() && l.top() < c.bottom() && c.left() > l.right())
+                    << label->text().toStdString() << " at " << l.top() << ".." << l.bottom()
+                    << ", its control at " << c.top() << ".." << c.bottom();
+            }
             const QImage shot = window.grab().toImage();
             QDir().mkpath(QStringLiteral(KELMORA_SCREENSHOT_DIR));
             shot.save(QStringLiteral(KELMORA_SCREENSHOT_DIR "/preferences-%1%2.png")
                           .arg(QLatin1String(language), QLatin1String(tabs[i])));
+            if (i == 0 && QLatin1String(language) == QLatin1String("ru"))
+                shot.save(QStringLiteral(KELMORA_SCREENSHOT_DIR "/russian-general-tab.png"));
             if (i == 1) {
                 // The background well shows the table's default colour.
                 auto* well = window.findChild<ColorWell*>(QStringLiteral("tableBackgroundColorWell"));

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -51,14 +52,18 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_FALSE(f.control<QCheckBox>("showAudioWaveSwitch")->isChecked());
     EXPECT_TRUE(f.control<QCheckBox>("showStatusBarSwitch")->isChecked());
     EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "Menlo - 20.0");
-    EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), QString::fromUtf8("⌃R"));
+    EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), "Ctrl+R");
     EXPECT_EQ(f.control<ShortcutTextField>("splitaudio")->text(), "F2");
 
-    // The language pop-up in its table's order, each name in the interface language.
+    // The language pop-up in its table's order, each name in its own language,
+    // then in the interface's (once where the two are the same).
     QComboBox* languages = f.control<QComboBox>("languagePopUpButton");
     ASSERT_EQ(languages->count(), 10);
     EXPECT_EQ(languages->itemData(1).toString(), "zh-Hans");
-    EXPECT_EQ(languages->itemText(1), "Chinese(Simplified)");
+    EXPECT_EQ(languages->itemText(0), "English");
+    EXPECT_EQ(languages->itemText(1), QString::fromUtf8("简体中文 — Chinese(Simplified)"));
+    EXPECT_EQ(languages->itemText(7), QString::fromUtf8("Русский — Russian"));
+    EXPECT_EQ(languages->itemText(9), QString::fromUtf8("Tiếng Việt — Vietnamese"));
     EXPECT_EQ(languages->currentData().toString(), "en");
 
     const QStringList& lines = log.lines();
@@ -68,7 +73,7 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(lines.value(start + 1), "minSegmentDuration=2.500000");
     EXPECT_EQ(lines.value(start + 5), "tableBackgroundColor=#ff123f7c,value=#123F7C");
     EXPECT_EQ(lines.value(start + 9), "dictionfont=Menlo - 20.0");
-    EXPECT_EQ(lines.value(start + 10), QString::fromUtf8("previous key,↑,keycode=126,modifierflags=0"));
+    EXPECT_EQ(lines.value(start + 10), "previous key,Up,keycode=126,modifierflags=0");
     EXPECT_EQ(lines.value(start + 16),
               "=====================================================================");
 }
@@ -131,9 +136,14 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     EXPECT_EQ(f.posted.last(), "TableBackgroundColorDidChange");
     EXPECT_EQ(ObjectStorage(d).colorForKey(DictationTextColor), QColor(228, 223, 78));
 
+    // The font panel opens on the font in use: the family the stored "Menlo"
+    // stands for, not the first of its list.
     QTest::mouseClick(f.control<QPushButton>("fontDisplayLabel"), Qt::LeftButton);
     auto* fonts = openDialog<QFontDialog>(f.window.get(), "fontDialog");
     ASSERT_NE(fonts, nullptr);
+    EXPECT_EQ(fonts->currentFont().family().toStdString(),
+              QFontInfo(QFont(QStringLiteral("Menlo"))).family().toStdString());
+    EXPECT_DOUBLE_EQ(fonts->currentFont().pointSizeF(), 20.0);
     QFont chosen(QStringLiteral("DejaVu Sans"));
     chosen.setPointSizeF(14.0);
     fonts->setCurrentFont(chosen);
@@ -144,6 +154,13 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     EXPECT_DOUBLE_EQ(stored->pointSizeF(), 14.0);
     EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "DejaVu Sans - 14.0");
     EXPECT_EQ(f.posted.last(), "DictationTextFontDidChange");
+    ASSERT_TRUE(waitFor([&] { return !f.window->findChild<QFontDialog*>("fontDialog"); }));
+    f.window->showFontPanel();
+    fonts = openDialog<QFontDialog>(f.window.get(), "fontDialog");
+    ASSERT_NE(fonts, nullptr);
+    EXPECT_EQ(fonts->currentFont().family(), "DejaVu Sans");
+    EXPECT_DOUBLE_EQ(fonts->currentFont().pointSizeF(), 14.0);
+    fonts->reject();
 }
 
 TEST(PreferenceWindow, TypedRepeatCountStopsAtFiveDigitsAndAnEmptyFieldBecomesTheMinimum)
@@ -202,7 +219,7 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     EXPECT_EQ(f.language->currentLanguage(), "en");
     EXPECT_EQ(f.control<QComboBox>("languagePopUpButton")->currentData().toString(), "en");
     EXPECT_EQ(ObjectStorage(d).keyboardShortcutForKey(NextSegmentShortcut), KeyboardShortcut(125, 0));
-    EXPECT_EQ(f.control<ShortcutTextField>("next")->text(), QString::fromUtf8("↓"));
+    EXPECT_EQ(f.control<ShortcutTextField>("next")->text(), "Down");
 }
 
 TEST(PreferenceWindow, ResetWithoutAnEnglishItemLeavesTheLanguageAlone)
@@ -234,4 +251,35 @@ TEST(PreferenceWindow, ClosingTheWindowWhileAFieldRecordsStoresTheShortcut)
     EXPECT_FALSE(field->isRecording());
     EXPECT_EQ(ObjectStorage(f.defaults.store()).keyboardShortcutForKey(PlayFirstShortcut),
               KeyboardShortcut(35, 0x20000));
+}
+
+TEST(PreferenceWindow, EscapeAndCtrlWCloseTheWindowButARecordingFieldTakesEscape)
+{
+    PreferenceFixture f;
+    auto reopen = [&] {
+        f.window->show();
+        f.window->activateWindow();
+        return QTest::qWaitForWindowActive(f.window.get());
+    };
+    QTest::keyClick(f.control<QDoubleSpinBox>("playSpeedStepper"), Qt::Key_Escape);
+    EXPECT_FALSE(f.window->isVisible());
+    ASSERT_TRUE(reopen());
+    QTest::keyClick(f.window.get(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(f.window->isVisible());
+
+    ASSERT_TRUE(reopen());
+    f.window->findChild<QTabWidget*>()->setCurrentIndex(2);
+    auto* field = f.control<ShortcutTextField>("next");
+    QTest::mouseClick(field, Qt::LeftButton);
+    ASSERT_TRUE(field->isRecording());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(f.window->isVisible());
+    EXPECT_EQ(field->keyCode(), 53);
+    EXPECT_EQ(field->text(), "Esc");
+    // Once the field is left, Escape closes again; the key was stored.
+    f.window->findChild<QTabWidget*>()->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(f.window->isVisible());
+    EXPECT_EQ(ObjectStorage(f.defaults.store()).keyboardShortcutForKey(NextSegmentShortcut),
+              KeyboardShortcut(53, 0));
 }

@@ -62,7 +62,7 @@ TEST(ShortcutTextField, RecordsTheLastKeyAndReportsItWhenTheFocusLeaves)
     w.press(Qt::Key_R, Qt::ShiftModifier);
     EXPECT_EQ(w.field->keyCode(), 15);
     EXPECT_EQ(w.field->modifierFlags(), 0x20000u);
-    EXPECT_EQ(w.field->text(), QString::fromUtf8("⇧R"));
+    EXPECT_EQ(w.field->text(), "Shift+R");
     EXPECT_EQ(reported.count(), 0);
 
     // Tab is a key like any other here, and the focus stays.
@@ -99,11 +99,11 @@ TEST(ShortcutTextField, QuitAndCloseKeysAreSwallowedNotRecorded)
     EXPECT_EQ(w.field->keyCode(), 36);
     EXPECT_TRUE(w.window.isVisible());
 
-    // With one more modifier they are ordinary keys; only one symbol shows.
+    // With one more modifier they are ordinary keys, shown with both.
     w.press(Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
     EXPECT_EQ(w.field->keyCode(), 12);
     EXPECT_EQ(w.field->modifierFlags(), 0x40000u | 0x80000u);
-    EXPECT_EQ(w.field->text(), QString::fromUtf8("⌃Q"));
+    EXPECT_EQ(w.field->text(), "Ctrl+Alt+Q");
     EXPECT_EQ(quits.count(), 1);
 }
 

@@ -20,28 +20,6 @@
         <translation>Hilfe</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>Kurzanleitung:
-
-1. Audiodatei öffnen: Command + O
-2. Wiedergabe/Pause: Enter
-3. Nächster Abschnitt: Pfeil nach unten
-4. Vorheriger Abschnitt: Pfeil nach oben
-5. Wiederholmodus: Control+ R
-6. Diktat speichern: Command + S
-
-Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -300,48 +278,48 @@ Versionshinweise:
         <translation>Wellenform</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Datei</translation>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>Öffnen…</translation>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Zuletzt geöffnet</translation>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>Liste leeren</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>Liste &amp;leeren</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>Diktat exportieren…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>Diktat &amp;exportieren…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Kelmora beenden</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>Kelmora &amp;beenden</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>Ansicht</translation>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>Fenstergröße</translation>
+        <source>&amp;Window Size</source>
+        <translation>&amp;Fenstergröße</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>Einstellungen…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>Nach Updates suchen…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>Nach &amp;Updates suchen…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Kelmora-Hilfe</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>Kelmora-&amp;Hilfe</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Versionshinweise:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>Öffnen Sie eine Aufnahme mit %@ oder ziehen Sie sie hierher</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>&amp;Wiedergabe</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>Diktat &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>Aus dem &amp;Musikordner öffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>Diktat &amp;löschen…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Wiedergabe/Pause</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>&amp;Vorheriger Abschnitt</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>&amp;Nächster Abschnitt</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>Wieder&amp;holmodus</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>&amp;Erster Abschnitt</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>Audio neu &amp;aufteilen</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Kurzanleitung:
+
+1. Audiodatei öffnen: %@
+2. Wiedergabe/Pause: %@
+3. Nächster Abschnitt: %@
+4. Vorheriger Abschnitt: %@
+5. Wiederholmodus: %@
+6. Erster Abschnitt: %@
+7. Audio neu aufteilen: %@
+8. Diktat exportieren: %@
+
+Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

@@ -20,28 +20,6 @@
         <translation>Help</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -191,7 +169,7 @@ If you have any questions, email me: support@kelmora.app.</translation>
     </message>
     <message>
         <source>Chinese(Simplified)</source>
-        <translation>Chinese(Simplified)</translation>
+        <translation>Chinese (Simplified)</translation>
     </message>
     <message>
         <source>Spanish</source>
@@ -300,48 +278,48 @@ Release Notes:
         <translation>Waveform</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>File</translation>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>Open…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Open…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Open Recent</translation>
+        <source>Open &amp;Recent</source>
+        <translation>Open &amp;Recent</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>Clear Menu</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Clear Menu</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>Export Dictation…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>&amp;Export Dictation…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Quit Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>&amp;Quit Kelmora</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>View</translation>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>Window Size</translation>
+        <source>&amp;Window Size</source>
+        <translation>&amp;Window Size</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>Preferences…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Preferences…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>Check for Updates…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Check for Updates…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Kelmora Help</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>Kelmora &amp;Help</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Release Notes:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>Open a recording with %@ or drop it here</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>&amp;Playback</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>&amp;Import Dictation…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>Import from &amp;Music Folder…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>&amp;Clear Dictation…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Play/Pause</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>Pre&amp;vious Segment</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>&amp;Next Segment</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>&amp;Repeat Mode</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>&amp;First Segment</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>&amp;Split the Audio Again</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

@@ -20,28 +20,6 @@
         <translation>Ayuda</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>Guía rápida de ayuda:
-
-1. Abrir archivo de audio: Command + O
-2. Reproducir/Pausar: Enter
-3. Segmento siguiente: flecha abajo
-4. Segmento anterior: flecha arriba
-5. Modo de repetición: Control+ R
-6. Guardar dictado: Command + S
-
-Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
@@ -300,48 +278,48 @@ Notas de la versión:
         <translation>Forma de onda</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Archivo</translation>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>Abrir…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Abrir reciente</translation>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;reciente</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>Borrar menú</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Borrar menú</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>Exportar dictado…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>&amp;Exportar dictado…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Salir de Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>&amp;Salir de Kelmora</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>Ver</translation>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>Tamaño de la ventana</translation>
+        <source>&amp;Window Size</source>
+        <translation>&amp;Tamaño de la ventana</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>Preferencias…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Preferencias…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>Buscar actualizaciones…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Buscar actualizaciones…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Ayuda de Kelmora</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>&amp;Ayuda de Kelmora</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Notas de la versión:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>Abra una grabación con %@ o suéltela aquí</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>&amp;Reproducción</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>&amp;Importar dictado…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>Abrir de la carpeta de &amp;música…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>&amp;Borrar dictado…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Reproducir/Pausar</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>Segmento &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>Segmento &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>&amp;Modo repetición</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>&amp;Primer segmento</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>&amp;Volver a dividir el audio</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Guía rápida de ayuda:
+
+1. Abrir archivo de audio: %@
+2. Reproducir/Pausar: %@
+3. Segmento siguiente: %@
+4. Segmento anterior: %@
+5. Modo de repetición: %@
+6. Primer segmento: %@
+7. Volver a dividir el audio: %@
+8. Exportar dictado: %@
+
+Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

@@ -20,28 +20,6 @@
         <translation>Aide</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>Aide rapide :
-
-1. Ouvrir un fichier audio : Command + O
-2. Lecture/Pause : Entrée
-3. Segment suivant : flèche bas
-4. Segment précédent : flèche haut
-5. Mode répétition : Control+ R
-6. Enregistrer la dictée : Command + S
-
-Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -300,48 +278,48 @@ Notes de version :
         <translation>Forme d'onde</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Fichier</translation>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>Ouvrir…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Ouvrir un fichier récent</translation>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un fichier &amp;récent</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>Effacer le menu</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Effacer le menu</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>Exporter la dictée…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>&amp;Exporter la dictée…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Quitter Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>&amp;Quitter Kelmora</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>Affichage</translation>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>Taille de la fenêtre</translation>
+        <source>&amp;Window Size</source>
+        <translation>&amp;Taille de la fenêtre</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>Préférences…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Préférences…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>Rechercher des mises à jour…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>Rechercher des &amp;mises à jour…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Aide de Kelmora</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>&amp;Aide de Kelmora</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Notes de version :
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>Ouvrez un enregistrement avec %@ ou déposez-le ici</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>&amp;Lecture</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>&amp;Importer une dictée…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>Ouvrir depuis le dossier &amp;Musique…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>Effacer la &amp;dictée…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>Segment &amp;précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>Segment &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>Mode &amp;répétition</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>Premier se&amp;gment</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>Re&amp;découper l’audio</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Aide rapide :
+
+1. Ouvrir un fichier audio : %@
+2. Lecture/Pause : %@
+3. Segment suivant : %@
+4. Segment précédent : %@
+5. Mode répétition : %@
+6. Premier segment : %@
+7. Redécouper l’audio : %@
+8. Exporter la dictée : %@
+
+Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

@@ -20,28 +20,6 @@
         <translation>ヘルプ</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>クイックヘルプ：
-
-1. オーディオファイルを開く：Command + O
-2. 再生/一時停止：Enter
-3. 次のセグメント：下矢印キー
-4. 前のセグメント：上矢印キー
-5. リピートモード：Control+ R
-6. ディクテーションを保存：Command + S
-
-ご質問がありましたら、こちらまでメールでお寄せください：support@kelmora.app。</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -300,48 +278,48 @@ Release Notes:
         <translation>波形</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>ファイル</translation>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>開く…</translation>
+        <source>&amp;Open…</source>
+        <translation>開く(&amp;O)…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>最近使った項目を開く</translation>
+        <source>Open &amp;Recent</source>
+        <translation>最近使った項目を開く(&amp;R)</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>メニューを消去</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>メニューを消去(&amp;C)</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>ディクテーションをエクスポート…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>ディクテーションをエクスポート(&amp;E)…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Kelmora を終了</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>Kelmora を終了(&amp;Q)</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>表示</translation>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>ウィンドウサイズ</translation>
+        <source>&amp;Window Size</source>
+        <translation>ウィンドウサイズ(&amp;W)</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>環境設定…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>環境設定(&amp;P)…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>アップデートを確認…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>アップデートを確認(&amp;C)…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Kelmora ヘルプ</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>Kelmora ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Release Notes:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>%@ で録音を開くか、ここにドロップしてください</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>再生(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>ディクテーションをインポート(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>音楽フォルダから開く(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>ディクテーションを消去(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>再生/一時停止(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>前のセグメント(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>次のセグメント(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>リピートモード(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>最初のセグメント(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>音声を再分割(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>クイックヘルプ：
+
+1. オーディオファイルを開く：%@
+2. 再生/一時停止：%@
+3. 次のセグメント：%@
+4. 前のセグメント：%@
+5. リピートモード：%@
+6. 最初のセグメント：%@
+7. 音声を再分割：%@
+8. ディクテーションをエクスポート：%@
+
+ご質問がありましたら、こちらまでメールでお寄せください：support@kelmora.app。</translation>
     </message>
 </context>
 </TS>

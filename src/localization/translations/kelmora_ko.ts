@@ -20,28 +20,6 @@
         <translation>도움말</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>빠른 도움말:
-
-1. 오디오 파일 열기: Command + O
-2. 재생/일시정지: Enter
-3. 다음 구간: 아래쪽 화살표
-4. 이전 구간: 위쪽 화살표
-5. 반복 모드: Control+ R
-6. 받아쓰기 저장: Command + S
-
-궁금한 점이 있으면 이메일을 보내 주세요: support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>확인</translation>
     </message>
@@ -300,48 +278,48 @@ Release Notes:
         <translation>파형</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>파일</translation>
+        <source>&amp;File</source>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>열기…</translation>
+        <source>&amp;Open…</source>
+        <translation>열기(&amp;O)…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>최근 항목 열기</translation>
+        <source>Open &amp;Recent</source>
+        <translation>최근 항목 열기(&amp;R)</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>메뉴 지우기</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>메뉴 지우기(&amp;C)</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>받아쓰기 내보내기…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>받아쓰기 내보내기(&amp;E)…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Kelmora 종료</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>Kelmora 종료(&amp;Q)</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>보기</translation>
+        <source>&amp;View</source>
+        <translation>보기(&amp;V)</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>창 크기</translation>
+        <source>&amp;Window Size</source>
+        <translation>창 크기(&amp;W)</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>환경설정…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>환경설정(&amp;P)…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>업데이트 확인…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>업데이트 확인(&amp;C)…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Kelmora 도움말</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>Kelmora 도움말(&amp;H)</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Release Notes:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>%@ 키로 녹음을 열거나 여기에 끌어다 놓으세요</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>편집(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>재생(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>도움말(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>받아쓰기 가져오기(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>음악 폴더에서 열기(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>받아쓰기 지우기(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>재생/일시정지(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>이전 구간(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>다음 구간(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>반복 모드(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>첫 구간(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>오디오 다시 나누기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>빠른 도움말:
+
+1. 오디오 파일 열기: %@
+2. 재생/일시정지: %@
+3. 다음 구간: %@
+4. 이전 구간: %@
+5. 반복 모드: %@
+6. 첫 구간: %@
+7. 오디오 다시 나누기: %@
+8. 받아쓰기 내보내기: %@
+
+궁금한 점이 있으면 이메일을 보내 주세요: support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

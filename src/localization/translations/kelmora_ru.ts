@@ -20,28 +20,6 @@
         <translation>Справка</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>Краткая справка:
-
-1. Открыть аудиофайл: Command + O
-2. Воспроизведение/пауза: Enter
-3. Следующий сегмент: стрелка вниз
-4. Предыдущий сегмент: стрелка вверх
-5. Режим повтора: Control+ R
-6. Сохранить диктант: Command + S
-
-Если у вас есть вопросы, напишите мне: support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>ОК</translation>
     </message>
@@ -300,48 +278,48 @@ Release Notes:
         <translation>Форма волны</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Файл</translation>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>Открыть…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Открыть…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Открыть недавние</translation>
+        <source>Open &amp;Recent</source>
+        <translation>Открыть &amp;недавние</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>Очистить список</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Очистить список</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>Экспортировать диктант…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>&amp;Экспортировать диктант…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Выйти из Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>&amp;Выйти из Kelmora</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>Вид</translation>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>Размер окна</translation>
+        <source>&amp;Window Size</source>
+        <translation>&amp;Размер окна</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>Настройки…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Настройки…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>Проверить обновления…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Проверить обновления…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Справка Kelmora</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>&amp;Справка Kelmora</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Release Notes:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>Откройте запись клавишами %@ или перетащите её сюда</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>Воспр&amp;оизведение</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>&amp;Импортировать диктант…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>Открыть из папки «&amp;Музыка»…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>&amp;Очистить диктант…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Воспроизведение/пауза</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>&amp;Предыдущий сегмент</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>&amp;Следующий сегмент</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>&amp;Режим повтора</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>П&amp;ервый сегмент</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>&amp;Заново разбить аудио</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Краткая справка:
+
+1. Открыть аудиофайл: %@
+2. Воспроизведение/пауза: %@
+3. Следующий сегмент: %@
+4. Предыдущий сегмент: %@
+5. Режим повтора: %@
+6. Первый сегмент: %@
+7. Заново разбить аудио: %@
+8. Экспортировать диктант: %@
+
+Если у вас есть вопросы, напишите мне: support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

@@ -20,28 +20,6 @@
         <translation>วิธีใช้</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>คู่มือช่วยเหลือฉบับย่อ:
-
-1. เปิดไฟล์เสียง: Command + O
-2. เล่น/หยุดชั่วคราว: Enter
-3. ช่วงถัดไป: ลูกศรลง
-4. ช่วงก่อนหน้า: ลูกศรขึ้น
-5. โหมดเล่นซ้ำ: Control+ R
-6. บันทึกการเขียนตามคำบอก: Command + S
-
-หากมีคำถามใด ๆ ส่งอีเมลถึงฉันได้ที่: support@kelmora.app</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>ตกลง</translation>
     </message>
@@ -300,48 +278,48 @@ Release Notes:
         <translation>รูปคลื่นเสียง</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>ไฟล์</translation>
+        <source>&amp;File</source>
+        <translation>ไฟล์(&amp;F)</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>เปิด…</translation>
+        <source>&amp;Open…</source>
+        <translation>เปิด(&amp;O)…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>เปิดรายการล่าสุด</translation>
+        <source>Open &amp;Recent</source>
+        <translation>เปิดรายการล่าสุด(&amp;R)</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>ล้างเมนู</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>ล้างเมนู(&amp;C)</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>ส่งออกการเขียนตามคำบอก…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>ส่งออกการเขียนตามคำบอก(&amp;E)…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>ออกจาก Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>ออกจาก Kelmora(&amp;Q)</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>มุมมอง</translation>
+        <source>&amp;View</source>
+        <translation>มุมมอง(&amp;V)</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>ขนาดหน้าต่าง</translation>
+        <source>&amp;Window Size</source>
+        <translation>ขนาดหน้าต่าง(&amp;W)</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>การตั้งค่า…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>การตั้งค่า(&amp;P)…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>ตรวจหาอัปเดต…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>ตรวจหาอัปเดต(&amp;C)…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>วิธีใช้ Kelmora</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>วิธีใช้ Kelmora(&amp;H)</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Release Notes:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>เปิดไฟล์เสียงที่บันทึกไว้ด้วย %@ หรือลากมาวางที่นี่</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>แก้ไข(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>การเล่น(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>วิธีใช้(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>นำเข้าการเขียนตามคำบอก(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>เปิดจากโฟลเดอร์เพลง(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>ล้างการเขียนตามคำบอก(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>เล่น/หยุดชั่วคราว(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>ช่วงก่อนหน้า(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>ช่วงถัดไป(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>โหมดเล่นซ้ำ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>ช่วงแรก(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>แบ่งเสียงใหม่อีกครั้ง(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>คู่มือช่วยเหลือฉบับย่อ:
+
+1. เปิดไฟล์เสียง: %@
+2. เล่น/หยุดชั่วคราว: %@
+3. ช่วงถัดไป: %@
+4. ช่วงก่อนหน้า: %@
+5. โหมดเล่นซ้ำ: %@
+6. ช่วงแรก: %@
+7. แบ่งเสียงใหม่อีกครั้ง: %@
+8. ส่งออกการเขียนตามคำบอก: %@
+
+หากมีคำถามใด ๆ ส่งอีเมลถึงฉันได้ที่: support@kelmora.app</translation>
     </message>
 </context>
 </TS>

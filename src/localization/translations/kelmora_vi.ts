@@ -20,28 +20,6 @@
         <translation>Trợ giúp</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>Hướng dẫn nhanh:
-
-1. Mở tệp âm thanh: Command + O
-2. Phát/Tạm dừng: Enter
-3. Đoạn tiếp theo: Mũi tên xuống
-4. Đoạn trước: Mũi tên lên
-5. Chế độ lặp lại: Control+ R
-6. Lưu bài chính tả: Command + S
-
-Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora.app.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -300,48 +278,48 @@ Ghi chú phát hành:
         <translation>Dạng sóng</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Tệp</translation>
+        <source>&amp;File</source>
+        <translation>&amp;Tệp</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>Mở…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Mở…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Mở gần đây</translation>
+        <source>Open &amp;Recent</source>
+        <translation>Mở &amp;gần đây</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>Xóa menu</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Xóa menu</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>Xuất bài chính tả…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>&amp;Xuất bài chính tả…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>Thoát Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>&amp;Thoát Kelmora</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>Xem</translation>
+        <source>&amp;View</source>
+        <translation>&amp;Xem</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>Kích thước cửa sổ</translation>
+        <source>&amp;Window Size</source>
+        <translation>&amp;Kích thước cửa sổ</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>Tùy chọn…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Tùy chọn…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>Kiểm tra bản cập nhật…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Kiểm tra bản cập nhật…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Trợ giúp Kelmora</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>&amp;Trợ giúp Kelmora</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Ghi chú phát hành:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>Mở một bản ghi âm bằng %@ hoặc thả tệp vào đây</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Sửa</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>&amp;Phát</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Trợ &amp;giúp</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>&amp;Nhập bài chính tả…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>Mở từ thư mục n&amp;hạc…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>&amp;Xóa bài chính tả…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Phát/Tạm dừng</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>Đoạn &amp;trước</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>Đoạn tiếp th&amp;eo</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>Chế độ &amp;lặp lại</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>Đoạn đầ&amp;u tiên</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>&amp;Chia lại âm thanh</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>Hướng dẫn nhanh:
+
+1. Mở tệp âm thanh: %@
+2. Phát/Tạm dừng: %@
+3. Đoạn tiếp theo: %@
+4. Đoạn trước: %@
+5. Chế độ lặp lại: %@
+6. Đoạn đầu tiên: %@
+7. Chia lại âm thanh: %@
+8. Xuất bài chính tả: %@
+
+Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora.app.</translation>
     </message>
 </context>
 </TS>

@@ -20,28 +20,6 @@
         <translation>帮助</translation>
     </message>
     <message>
-        <source>Quick Help Guide:
-
-1. Open Audio File: Command + O
-2. Play/Pause: Enter
-3. Next Segment: Down Arrow
-4. Previous Segment: Up Arrow
-5. Repeat Mode: Control+ R
-6. Save Dictation: Command + S
-
-If you have any questions, email me: support@kelmora.app.</source>
-        <translation>快速帮助指南：
-
-1. 打开音频文件：Command + O
-2. 播放/暂停：Enter
-3. 下一段：下箭头键
-4. 上一段：上箭头键
-5. 重复模式：Control+ R
-6. 保存听写：Command + S
-
-如有任何问题，请发送邮件至：support@kelmora.app。</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>好</translation>
     </message>
@@ -300,48 +278,48 @@ Release Notes:
         <translation>波形</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>文件</translation>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>Open…</source>
-        <translation>打开…</translation>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>打开最近使用</translation>
+        <source>Open &amp;Recent</source>
+        <translation>打开最近使用(&amp;R)</translation>
     </message>
     <message>
-        <source>Clear Menu</source>
-        <translation>清除菜单</translation>
+        <source>&amp;Clear Menu</source>
+        <translation>清除菜单(&amp;C)</translation>
     </message>
     <message>
-        <source>Export Dictation…</source>
-        <translation>导出听写…</translation>
+        <source>&amp;Export Dictation…</source>
+        <translation>导出听写(&amp;E)…</translation>
     </message>
     <message>
-        <source>Quit Kelmora</source>
-        <translation>退出 Kelmora</translation>
+        <source>&amp;Quit Kelmora</source>
+        <translation>退出 Kelmora(&amp;Q)</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>视图</translation>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
     </message>
     <message>
-        <source>Window Size</source>
-        <translation>窗口大小</translation>
+        <source>&amp;Window Size</source>
+        <translation>窗口大小(&amp;W)</translation>
     </message>
     <message>
-        <source>Preferences…</source>
-        <translation>偏好设置…</translation>
+        <source>&amp;Preferences…</source>
+        <translation>偏好设置(&amp;P)…</translation>
     </message>
     <message>
-        <source>Check for Updates…</source>
-        <translation>检查更新…</translation>
+        <source>&amp;Check for Updates…</source>
+        <translation>检查更新(&amp;C)…</translation>
     </message>
     <message>
-        <source>Kelmora Help</source>
-        <translation>Kelmora 帮助</translation>
+        <source>Kelmora &amp;Help</source>
+        <translation>Kelmora 帮助(&amp;H)</translation>
     </message>
     <message>
         <source>Open</source>
@@ -514,6 +492,80 @@ Release Notes:
     <message>
         <source>Open a recording with %@ or drop it here</source>
         <translation>按 %@ 打开录音，或将其拖放到此处</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>播放(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Dictation…</source>
+        <translation>导入听写(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Import from &amp;Music Folder…</source>
+        <translation>从音乐文件夹打开(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Dictation…</source>
+        <translation>清空听写(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Play/Pause</source>
+        <translation>播放/暂停(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Segment</source>
+        <translation>上一分段(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Segment</source>
+        <translation>下一分段(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Mode</source>
+        <translation>重复模式(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;First Segment</source>
+        <translation>第一个分段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Split the Audio Again</source>
+        <translation>重新切分音频(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Quick Help Guide:
+
+1. Open Audio File: %@
+2. Play/Pause: %@
+3. Next Segment: %@
+4. Previous Segment: %@
+5. Repeat Mode: %@
+6. First Segment: %@
+7. Split the Audio Again: %@
+8. Export Dictation: %@
+
+If you have any questions, email me: support@kelmora.app.</source>
+        <translation>快速帮助指南：
+
+1. 打开音频文件：%@
+2. 播放/暂停：%@
+3. 下一段：%@
+4. 上一段：%@
+5. 重复模式：%@
+6. 第一个分段：%@
+7. 重新切分音频：%@
+8. 导出听写：%@
+
+如有任何问题，请发送邮件至：support@kelmora.app。</translation>
     </message>
 </context>
 </TS>
