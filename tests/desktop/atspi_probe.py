@@ -10,6 +10,7 @@ the way a screen reader would. Usage:
   atspi_probe.py press NAME             presses the first button with that name
   atspi_probe.py text NAME              prints the text of the first control with that name
   atspi_probe.py centre NAME            prints the screen centre "X Y" of that control
+  atspi_probe.py left-of NAME DX        prints "X Y": DX pixels in from its left edge, half-way down
 Exits 1 with a message when what it looks for does not appear in 20 s."""
 
 import sys
@@ -130,7 +131,7 @@ def main(argv):
                                         None), "button " + name)
         button.get_action_iface().do_action(0)
         print("pressed " + name)
-    elif command in ("text", "centre"):
+    elif command in ("text", "centre", "left-of"):
         name = argv[2]
         node = until(lambda app: next((n for n in walk(app)
                                        if n.get_name() == name and role(n) != "label"), None),
@@ -139,7 +140,8 @@ def main(argv):
             print(text_of(node))
         else:
             box = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-            print(box.x + box.width // 2, box.y + box.height // 2)
+            x = box.x + int(argv[3]) if command == "left-of" else box.x + box.width // 2
+            print(x, box.y + box.height // 2)
     else:
         sys.exit("unknown command " + command)
 

@@ -1,7 +1,8 @@
 # Sourced by the real-window tests: a private home, a real X server (Xvfb) and
 # a private PulseAudio server with one null sink whose monitor is recorded.
 # Expects the caller to be inside its own D-Bus session already. Defines
-# work, pids, probe, fail, start_sound and screenshot; cleans up on exit.
+# work, pids, probe, fail, start_sound, start_window_manager and screenshot;
+# cleans up on exit.
 
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
@@ -48,6 +49,18 @@ start_sound() {
   pids+=($!)
   parec --latency-msec=20 -d testsink.monitor --format=s16le --rate=48000 --channels=1 > "$work/capture.raw" &
   pids+=($!)
+}
+
+# A window manager (openbox), for what focus, activation and dialogs need;
+# waits until it has taken the screen.
+start_window_manager() {
+  openbox --sm-disable > "$work/openbox.log" 2>&1 &
+  pids+=($!)
+  for _ in $(seq 50); do
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && return 0
+    sleep 0.1
+  done
+  fail "openbox did not start: $(cat "$work/openbox.log")"
 }
 
 # screenshot NAME: the whole screen into SHOTS/NAME.png.

@@ -103,10 +103,9 @@ screenshot real-session
 xdotool key ctrl+r
 until_status "| Play | Repeat"
 
-# Closing with "Save" asks for an existing transcript to write over; both it
-# and the store file then hold the rows.
+# Closing with "Save" shows a save panel; both the file named there and the
+# store file then hold the rows.
 picked="$HOME/picked.lrc"
-: > "$picked"
 xdotool key --clearmodifiers ctrl+q
 prompt="$(timeout 20 xdotool search --sync --name "^Save Dictation\?\$" | head -n1)" ||
   fail "no close prompt"
@@ -124,6 +123,7 @@ done
 [ -n "$panel" ] || fail "no panel to pick the transcript"
 echo "panel: $(xdotool getwindowname "$panel")"
 xdotool windowfocus --sync "$panel"
+xdotool key ctrl+a
 xdotool type --delay 20 "$picked"
 xdotool key Return
 status=0
