@@ -183,8 +183,7 @@ void AppDelegate::restartApp()
     if (!window)
         return;
     m_restartPending = true;
-    // The restarted window reopens the lesson from the store: the last
-    // keystrokes go there first, throttle or not.
+    // The last keystrokes go to the store first, throttle or not.
     if (ViewController* session = this->session()) {
         session->autoSaveTranscription(true);
         m_services.autoSave.waitForDone();
@@ -202,13 +201,10 @@ void AppDelegate::mainWindowClosed()
     m_restartPending = false;
     emit aboutToRestart();
     const QString program = QCoreApplication::applicationFilePath();
-    // The lesson in the window now, not the one the first command line named
-    // (which the learner may have left long ago, or which failed to open).
-    QStringList arguments;
-    if (const ViewController* session = this->session();
-        session && !session->currentAudioPath().isEmpty() &&
-        (session->hasSegmentsShown() || session->isProcessing()))
-        arguments << session->currentAudioPath();
+    // A fresh instance, as a new launch would be: the command line that
+    // started this one may name a file the learner left long ago. The typing
+    // is in the store already and comes back when the lesson is opened.
+    const QStringList arguments;
     const bool started = m_startProcess ? m_startProcess(program, arguments)
                                         : QProcess::startDetached(program, arguments);
     if (!started)
