@@ -1,11 +1,25 @@
 # Sourced by the real-window tests: a private home, a real X server (Xvfb) and
 # a private PulseAudio server with one null sink whose monitor is recorded.
 # Expects the caller to be inside its own D-Bus session already. Defines
-# work, pids, probe, fail, start_sound, start_window_manager and screenshot;
+# work, pids, probe, until_equal, fail, start_sound, start_window_manager and screenshot;
 # cleans up on exit.
 
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
+
+# until_equal WHAT EXPECTED COMMAND...: polls COMMAND for up to five seconds;
+# a command that fails counts as reading nothing.
+until_equal() {
+  local what="$1" expected="$2" got=""
+  shift 2
+  for _ in $(seq 25); do
+    got="$("$@" 2>/dev/null || true)"
+    [ "$got" = "$expected" ] && { echo "$what: $got"; return 0; }
+    sleep 0.2
+  done
+  fail "$what reads '$got', not '$expected'"
+}
+
 fail() { echo "FAIL: $*" >&2; [ -f "$work/kelmora.log" ] && tail -5 "$work/kelmora.log" >&2; exit 1; }
 
 work="$(mktemp -d)"

@@ -30,18 +30,6 @@ export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
 
 title="$(basename "${fixture%.*}")"
 
-# until_equal WHAT EXPECTED COMMAND...: polls COMMAND for up to five seconds.
-until_equal() {
-  local what="$1" expected="$2" got=""
-  shift 2
-  for _ in $(seq 25); do
-    got="$("$@" 2>/dev/null || true)"
-    [ "$got" = "$expected" ] && { echo "$what: $got"; return 0; }
-    sleep 0.2
-  done
-  fail "$what reads '$got', not '$expected'"
-}
-
 # window_named TITLE: waits up to ten seconds for a visible window of that title.
 window_named() {
   local id=""

@@ -34,18 +34,6 @@ start_kelmora() {
   xdotool windowfocus --sync "$window"
 }
 
-# until_equal WHAT EXPECTED COMMAND...: polls COMMAND for up to five seconds.
-until_equal() {
-  local what="$1" expected="$2" got=""
-  shift 2
-  for _ in $(seq 25); do
-    got="$("$@")"
-    [ "$got" = "$expected" ] && { echo "$what: $got"; return 0; }
-    sleep 0.2
-  done
-  fail "$what reads '$got', not '$expected'"
-}
-
 # until_status PATTERN: polls the status bar until it matches.
 until_status() {
   local got=""
