@@ -64,6 +64,7 @@ void AudioManager::cancelPlayTimer()
         m_playTimer->invalidate();
         m_playTimer.reset();
     }
+    m_playTimerRole = PlayTimerRole::None;
     m_tickers.removeIf([](const std::shared_ptr<Timer>& t) { return !t->isValid(); });
 }
 
@@ -126,6 +127,7 @@ void AudioManager::armSegmentEnd(double seconds)
         if (self)
             self->segmentEndTimerFired();
     });
+    m_playTimerRole = PlayTimerRole::SegmentEnd;
 }
 
 void AudioManager::segmentEndTimerFired()
@@ -175,6 +177,7 @@ void AudioManager::play()
     auto ticker = m_tickerGroup->add(*m_clock);
     m_tickers.append(ticker);
     m_playTimer = std::move(ticker);
+    m_playTimerRole = PlayTimerRole::Ticker;
     postStatus(Notifications::AudioPlaying, 1);
 }
 
@@ -221,14 +224,21 @@ void AudioManager::resumePlayback()
         double length = m_currentSegmentIndex + 1 < m_segments.size()
                             ? m_segments[m_currentSegmentIndex + 1].start - now
                             : segment.start + segment.duration - m_savedPlaybackPosition;
+        m_resumeEndSource = now + length;
         length /= static_cast<double>(m_currentRate);
-        QPointer<AudioManager> self(this);
-        m_playTimer = m_clock->scheduledTimer(length, false, [self] {
-            if (self)
-                self->resumeTimerFired();
-        });
+        armResumeEnd(length);
     }
     postStatus(Notifications::AudioPlaybackDidResume, 3);
+}
+
+void AudioManager::armResumeEnd(double seconds)
+{
+    QPointer<AudioManager> self(this);
+    m_playTimer = m_clock->scheduledTimer(seconds, false, [self] {
+        if (self)
+            self->resumeTimerFired();
+    });
+    m_playTimerRole = PlayTimerRole::ResumeEnd;
 }
 
 void AudioManager::resumeTimerFired()
@@ -249,8 +259,34 @@ void AudioManager::setPlaybackRate(float rate)
     if (!m_audioPlayer)
         return;
     m_audioPlayer->setEnableRate(true);
+    const float before = m_currentRate;
     m_currentRate = std::clamp(rate, AudioPlayer::kMinRate, AudioPlayer::kMaxRate);
     m_audioPlayer->setRate(m_currentRate);
+    if (m_currentRate != before)
+        retimePlayTimer();
+}
+
+void AudioManager::retimePlayTimer()
+{
+    // An end timed at the old rate would come seconds late (silence in
+    // repeat mode) or early (a cut): what is left of the source is timed
+    // again at the new rate from where the sound stands now.
+    if (!m_playTimer || !m_audioPlayer->isPlaying())
+        return;
+    const bool segmentEnd = m_playTimerRole == PlayTimerRole::SegmentEnd;
+    if (!segmentEnd && m_playTimerRole != PlayTimerRole::ResumeEnd)
+        return;
+    const double end = segmentEnd ? m_segmentEndSource : m_resumeEndSource;
+    const double left = std::max(end - m_audioPlayer->currentTime(), 0.0) /
+                        static_cast<double>(m_currentRate);
+    m_playTimer->invalidate();
+    if (segmentEnd) {
+        m_segmentEndRearms = 0;
+        m_segmentEndHeld = std::min(kSegmentEndLead, left);
+        armSegmentEnd(left - m_segmentEndHeld);
+    } else {
+        armResumeEnd(left);
+    }
 }
 
 void AudioManager::setRepeatTimes(qint64 times)

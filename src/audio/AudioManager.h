@@ -186,6 +186,8 @@ private:
     void segmentEndTimerFired();
     void armSegmentEnd(double seconds);
     void resumeTimerFired();
+    void armResumeEnd(double seconds);
+    void retimePlayTimer();
     void deliverPlaybackCompletion();
     void postStatus(const char* name, int status);
 
@@ -258,6 +260,10 @@ private:
     // worker never changes it under the ticks of the one still playing.
     double m_playerDuration = 0.0;
     std::shared_ptr<Timer> m_playTimer;             // the one timer slot
+    // What the slot holds now; an end that a rate change must move.
+    enum class PlayTimerRole { None, Ticker, SegmentEnd, ResumeEnd };
+    PlayTimerRole m_playTimerRole = PlayTimerRole::None;
+    double m_resumeEndSource = 0.0; // source seconds where a resumed stretch ends
     std::unique_ptr<PositionTickers> m_tickerGroup; // one clock timer for all of them
     QList<std::shared_ptr<Timer>> m_tickers;        // every position ticker started by play()
     double m_segmentEndSource = 0.0;                // source seconds where the playing segment ends

@@ -6,6 +6,7 @@
 #include "RealSoundSupport.h"
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
+#include "audio/QtAudioOutput.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
 #include "support/TestSupport.h"
@@ -249,4 +250,84 @@ TEST_F(RealSound, OutsideRepeatModePlaybackRunsThroughTheBoundaryWithoutAGap)
     EXPECT_TRUE(boundary);
     EXPECT_EQ(runs.size(), 1u) << "a gap in the sound";
     EXPECT_GT(take.coefficient, 0.98) << "the boundary is not heard as the file has it";
+}
+
+// Rate changes while a segment plays in repeat mode: from 0.3x to 3.0x, then
+// a held key's twenty changes a second, then 3.0x to the end. The sound never
+// stops for more than 50 ms, the old rate plays out only what the sink
+// already holds, and the segment still ends on its last sample.
+TEST_F(RealSound, RateChangesWhilePlayingAreHeardAtOnceAndTheSegmentEndsInPlace)
+{
+    const qint64 index = 1;
+    const double start = engine->segments()[index].start;
+    const double end = start + spanOf(index);
+    const double frame = 1.0 / kCaptureRate;
+    // Wall-clock milliseconds from the start, and the rate set then.
+    std::vector<std::pair<qint64, float>> plan{{400, 3.0f}};
+    for (int k = 0; k < 8; ++k)
+        plan.push_back({600 + 50 * k, k % 2 ? 1.5f : 2.0f});
+    plan.push_back({1000, 3.0f});
+    engine->setRepeatMode(true);
+
+    Take take;
+    std::vector<Sound> runs;
+    double worstGap = 0, worstDelay = 0, lastFrom = 0;
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+        engine->setPlaybackRate(0.3f);
+        bool over = false;
+        engine->setPlaybackCompletionHandler([&] {
+            engine->stopPlayback();
+            over = true;
+        });
+        QElapsedTimer clock;
+        size_t next = 0;
+        worstDelay = 0;
+        float rate = 0.3f;
+        take = record(
+            *pulse, *engine->audioPlayer(), 1.2,
+            [&] {
+                engine->setCurrentSegmentIndex(-1);
+                engine->playSegmentAtIndex(index);
+                clock.start();
+            },
+            [&] {
+                if (next < plan.size() && clock.elapsed() >= plan[next].first) {
+                    // The ear is at `heard`; the device has taken up to
+                    // `taken`. What lies between is heard at the old rate
+                    // before the new one begins.
+                    AudioPlayer& player = *engine->audioPlayer();
+                    const double heard = player.currentTime();
+                    const double taken = player.handedFrame().position + frame;
+                    engine->setPlaybackRate(plan[next].second);
+                    worstDelay = std::max(worstDelay, (taken - heard) / double(rate));
+                    rate = plan[next].second;
+                    lastFrom = taken;
+                    ++next;
+                }
+                return over;
+            });
+        if (!take.error.isEmpty())
+            break;
+        runs = soundRuns(take.capture);
+        worstGap = 0;
+        for (size_t i = 1; i < runs.size(); ++i)
+            worstGap = std::max(worstGap, runs[i].from - runs[i - 1].to);
+        // From the last change to the segment's end, at 3.0x.
+        take.measure(reference(lastFrom, end - lastFrom, 3.0f), (end - lastFrom) / 3.0);
+        std::printf("take %d: %zu stretches of sound, longest gap %.3f s, longest wait for a new "
+                    "rate %.3f s, the last stretch found r=%.4f, %.3f s heard of %.3f s, %d "
+                    "underruns, %d at the sink\n",
+                    attempt, runs.size(), worstGap, worstDelay, take.coefficient, take.heard,
+                    (end - lastFrom) / 3.0, take.starved, take.sinkUnderruns);
+        if (!take.disturbed() && next == plan.size() && worstGap <= 0.05 &&
+            take.coefficient > 0.98 && std::fabs(take.heard - (end - lastFrom) / 3.0) <=
+                                           kHeardTolerance)
+            break;
+    }
+    ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
+    EXPECT_LE(worstGap, 0.05) << "silence after a rate change";
+    EXPECT_LE(worstDelay, QtAudioOutput::kBufferSeconds + 0.1) << "the old rate went on too long";
+    EXPECT_GT(take.coefficient, 0.98) << "the end of the segment at 3.0x is not heard";
+    EXPECT_NEAR(take.heard, (end - lastFrom) / 3.0, kHeardTolerance)
+        << "the segment did not end on its last sample";
 }
