@@ -48,8 +48,8 @@ struct FrameConverter::State
     }
 };
 
-FrameConverter::FrameConverter(int channels, int sampleFormat, int sampleRate)
-    : m_channels(channels), m_format(sampleFormat), m_rate(sampleRate),
+FrameConverter::FrameConverter(int channels, int sampleFormat, int sampleRate, Mix mix)
+    : m_channels(channels), m_format(sampleFormat), m_rate(sampleRate), m_mix(mix),
       m_state(std::make_unique<State>())
 {
     av_channel_layout_default(&m_state->outLayout, channels);
@@ -95,6 +95,10 @@ bool FrameConverter::configureFor(const AVFrame* frame)
     int rc = swr_alloc_set_opts2(&s.swr, &s.outLayout, AVSampleFormat(m_format), m_rate, &in,
                                  AVSampleFormat(frame->format), frame->sample_rate, 0, nullptr);
     av_channel_layout_uninit(&in);
+    // For float output the resampler leaves its matrix unnormalised; one
+    // this bound scales down only a matrix whose rows add up to more.
+    if (rc >= 0 && m_mix == Mix::WithinFullScale)
+        rc = av_opt_set_double(s.swr, "rematrix_maxval", 1.0, 0);
     if (rc >= 0)
         rc = swr_init(s.swr);
     if (rc < 0) {

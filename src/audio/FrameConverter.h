@@ -10,13 +10,24 @@ struct AVFrame;
 // rate, so a stream whose frames change any of them mid-way comes out uniform;
 // the resampler is rebuilt whenever the incoming frame differs from the last.
 // A layout with more channels than the target is folded in with FFmpeg's
-// standard downmix (centre and surrounds at -3 dB, LFE left out).
+// standard downmix (centre and surrounds at -3 dB, LFE left out), scaled
+// when asked so that it cannot pass full scale.
 class FrameConverter
 {
 public:
+    enum class Mix
+    {
+        // FFmpeg's coefficients as they are: a float sum may pass full scale.
+        Standard,
+        // Scaled so that no output channel's coefficients add up to more
+        // than one: a file at full scale in every channel stays below it
+        // (what is heard must never clip).
+        WithinFullScale
+    };
+
     // `sampleFormat` is an AVSampleFormat. Channels in FFmpeg's default order
     // for their count.
-    FrameConverter(int channels, int sampleFormat, int sampleRate);
+    FrameConverter(int channels, int sampleFormat, int sampleRate, Mix mix = Mix::Standard);
     ~FrameConverter();
     FrameConverter(const FrameConverter&) = delete;
     FrameConverter& operator=(const FrameConverter&) = delete;
@@ -41,6 +52,7 @@ private:
     int m_channels;
     int m_format;
     int m_rate;
+    Mix m_mix;
     struct State;
     std::unique_ptr<State> m_state;
     QString m_error;

@@ -42,7 +42,8 @@ PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
                                                   static_cast<int>(kBlock))),
       m_converter(std::make_unique<FrameConverter>(m_channels, AV_SAMPLE_FMT_FLT,
-                                                   static_cast<int>(m_sampleRate))),
+                                                   static_cast<int>(m_sampleRate),
+                                                   FrameConverter::Mix::WithinFullScale)),
       m_stretched(static_cast<size_t>(kBlock * m_channels))
 {
     m_thread = std::thread([this] { run(); });

@@ -10,6 +10,7 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -38,8 +39,8 @@ qsizetype decodedFrames(const QString& path)
     qsizetype frames = 0;
     while (decoder.readNext() == AudioDecoder::ReadResult::Buffer) {
         EXPECT_EQ(decoder.buffer().channels(), decoder.info().channels);
-        frames = std::max<qsizetype>(frames, decoder.buffer().startFrame()) +
-                 decoder.buffer().frames();
+        frames =
+            std::max<qsizetype>(frames, decoder.buffer().startFrame()) + decoder.buffer().frames();
     }
     return frames;
 }
@@ -153,26 +154,40 @@ INSTANTIATE_TEST_SUITE_P(Formats, JoinedStream,
 INSTANTIATE_TEST_SUITE_P(Formats, JoinedParts,
                          ::testing::Values("stereo_then_mono.mp3", "stereo_then_mono.aac"));
 
-// FFmpeg's standard downmix folds the centre into each side at -3 dB: speech
-// that lives in the centre of a 5.1 file alone is heard at that level.
-TEST(Downmix, TheCentreOfA51FileIsHeardOnBothSidesAtMinusThreeDecibels)
+// FFmpeg's standard downmix (each side: its front, the centre and its
+// surround at -3 dB) scaled so that a side's coefficients add up to one: a
+// 5.1 file at full scale in every channel never clips, and speech that lives
+// in the centre alone is heard on both sides at 1 - sqrt(1/2) (-10.7 dB).
+TEST(Downmix, FoldsA51FileIntoStereoWithoutPassingFullScale)
 {
+    ManualPlayer loud = openManual(fixture("full_scale_51.wav"));
+    ASSERT_TRUE(loud.player);
+    ASSERT_EQ(loud.player->format().channels, 2);
+    loud.player->play();
+    const std::vector<float> sides = loud.take(44100);
+    ASSERT_EQ(sides.size(), size_t(44100 * 2));
+    const auto clipped =
+        std::count_if(sides.begin(), sides.end(), [](float v) { return std::fabs(v) >= 0.999f; });
+    EXPECT_EQ(clipped, 0) << "samples at full scale";
+    EXPECT_NEAR(peak(sides, 2, 0, 0, 44100), 0.95f, 0.01f);
+    EXPECT_NEAR(peak(sides, 2, 1, 0, 44100), 0.95f, 0.01f);
+
     const std::vector<float> mono = straightDecode(fixture("speech.wav"));
-    ManualPlayer p = openManual(fixture("speech_centre_51.wav"));
-    ASSERT_TRUE(p.player);
-    ASSERT_EQ(p.player->format().channels, 2);
-    p.player->play();
+    ManualPlayer centre = openManual(fixture("speech_centre_51.wav"));
+    ASSERT_TRUE(centre.player);
+    centre.player->play();
     const qsizetype frames = 44100 * 4;
-    const std::vector<float> got = p.take(frames);
+    const std::vector<float> got = centre.take(frames);
     ASSERT_EQ(got.size(), size_t(frames * 2));
+    const float gain = 1.0f - float(M_SQRT1_2);
     float worst = 0.0f;
     for (qsizetype i = 0; i < frames; ++i) {
-        const float expected = mono[size_t(i)] * float(M_SQRT1_2);
+        const float expected = mono[size_t(i)] * gain;
         worst = std::max({worst, std::fabs(got[size_t(2 * i)] - expected),
                           std::fabs(got[size_t(2 * i + 1)] - expected)});
     }
     EXPECT_LT(worst, 1e-4f);
-    EXPECT_GT(peak(got, 2, 0, 0, frames), 0.1f);
+    EXPECT_GT(peak(got, 2, 0, 0, frames), 0.03f);
 }
 
 // A header that declares a stream no recording has is refused with its reason
