@@ -320,13 +320,15 @@ TEST_F(RealSound, RateChangesWhilePlayingAreHeardAtOnceAndTheSegmentEndsInPlace)
                     attempt, runs.size(), worstGap, worstDelay, take.coefficient, take.heard,
                     (end - lastFrom) / 3.0, take.starved, take.sinkUnderruns);
         if (!take.disturbed() && next == plan.size() && worstGap <= 0.05 &&
-            take.coefficient > 0.98 && std::fabs(take.heard - (end - lastFrom) / 3.0) <=
-                                           kHeardTolerance)
+            take.coefficient > 0.98 &&
+            std::fabs(take.heard - (end - lastFrom) / 3.0) <= kHeardTolerance)
             break;
     }
     ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
     EXPECT_LE(worstGap, 0.05) << "silence after a rate change";
-    EXPECT_LE(worstDelay, QtAudioOutput::kBufferSeconds + 0.1) << "the old rate went on too long";
+    // What the sink holds is heard at the old rate: its own buffer and the
+    // server's share of it, nothing from the ring.
+    EXPECT_LE(worstDelay, QtAudioOutput::kBufferSeconds + 0.15) << "the old rate went on too long";
     EXPECT_GT(take.coefficient, 0.98) << "the end of the segment at 3.0x is not heard";
     EXPECT_NEAR(take.heard, (end - lastFrom) / 3.0, kHeardTolerance)
         << "the segment did not end on its last sample";
