@@ -1,17 +1,18 @@
 #include "app/AppDelegate.h"
 
 #include "app/AutoSaveQueue.h"
-#include "app/Dialogs.h"
 #include "app/MainWindowController.h"
 #include "app/UpdateAlertSheets.h"
 #include "app/ViewController.h"
+#include "common/Log.h"
+#include "dialogs/Dialogs.h"
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
-#include "preferences/ShortcutBindings.h"
 #include "preferences/PreferenceViewController.h"
+#include "preferences/ShortcutBindings.h"
 #include "transcript/DocumentManager.h"
 #include "update/CheckAppUpdate.h"
 
@@ -103,12 +104,12 @@ QString AppDelegate::localizedHelpText(Defaults& defaults)
     auto menuKey = [](QKeySequence::StandardKey key) {
         return QKeySequence(key).toString(QKeySequence::NativeText);
     };
-    return stringWithFormat(
-        LocalizedString(Texts::HelpGuide),
-        {menuKey(QKeySequence::Open), bound(ShortcutAction::PlayPause),
-         bound(ShortcutAction::NextSegment), bound(ShortcutAction::PreviousSegment),
-         bound(ShortcutAction::RepeatPlay), bound(ShortcutAction::PlayFirst),
-         bound(ShortcutAction::SplitAudio), menuKey(QKeySequence::Save)});
+    return stringWithFormat(LocalizedString(Texts::HelpGuide),
+                            {menuKey(QKeySequence::Open), bound(ShortcutAction::PlayPause),
+                             bound(ShortcutAction::NextSegment),
+                             bound(ShortcutAction::PreviousSegment),
+                             bound(ShortcutAction::RepeatPlay), bound(ShortcutAction::PlayFirst),
+                             bound(ShortcutAction::SplitAudio), menuKey(QKeySequence::Save)});
 }
 
 QString AppDelegate::helpPagePath()
@@ -118,8 +119,7 @@ QString AppDelegate::helpPagePath()
     const QString appDir = QCoreApplication::applicationDirPath();
     QStringList candidates{appDir + QStringLiteral("/help.html"),
                            appDir + QStringLiteral("/../share/kelmora/help.html")};
-    for (const QString& dir :
-         QStandardPaths::standardLocations(QStandardPaths::AppDataLocation))
+    for (const QString& dir : QStandardPaths::standardLocations(QStandardPaths::AppDataLocation))
         candidates << dir + QStringLiteral("/help.html");
     for (const QString& candidate : candidates) {
         if (QFileInfo(candidate).isFile())
@@ -130,7 +130,7 @@ QString AppDelegate::helpPagePath()
 
 void AppDelegate::showHelp()
 {
-    qInfo("Resource path: %s", qUtf8Printable(QCoreApplication::applicationDirPath()));
+    qCInfo(lcApp, "Resource path: %s", qUtf8Printable(QCoreApplication::applicationDirPath()));
     const QString page = helpPagePath();
     if (!page.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(page)))
         return;
@@ -208,7 +208,7 @@ void AppDelegate::mainWindowClosed()
     const bool started = m_startProcess ? m_startProcess(program, arguments)
                                         : QProcess::startDetached(program, arguments);
     if (!started)
-        qWarning("Could not start %s again", qUtf8Printable(program));
+        qCWarning(lcApp, "Could not start %s again", qUtf8Printable(program));
     // Every window is closed by now; exit() leaves the event loop without
     // asking them again.
     QCoreApplication::exit(0);

@@ -1,6 +1,7 @@
 #include "app/AutoSaveQueue.h"
 
 #include "app/FileIdentity.h"
+#include "common/Log.h"
 #include "common/ThreadHandOff.h"
 #include "transcript/LrcLine.h"
 #include "transcript/TranscriptionManager.h"
@@ -59,29 +60,29 @@ void AutoSaveQueue::enqueue(Snapshot snapshot, Finished finished)
         m_queue->setExpiryTimeout(-1);
     }
     m_lastAutoSaveTime = m_now();
-    startHandedOver(
-        m_queue.get(), [snapshot = std::move(snapshot), finished = std::move(finished)] {
-            try {
-                QString identifier;
-                const bool saved = save(snapshot, &identifier);
-                onMainThread([saved, identifier, finished] {
-                    if (saved)
-                        qInfo("Auto save completed for file: %s", qUtf8Printable(identifier));
-                    else
-                        qInfo("Auto save failed for file: %s", qUtf8Printable(identifier));
-                    if (finished)
-                        finished(saved, identifier);
-                });
-            } catch (const std::exception& exception) {
-                const QString what = QString::fromLocal8Bit(exception.what());
-                qInfo("Auto save exception: %s", qUtf8Printable(what));
-                onMainThread([what, finished] {
-                    qInfo("Auto save failed with exception: %s", qUtf8Printable(what));
-                    if (finished)
-                        finished(false, QString());
-                });
-            }
-        });
+    startHandedOver(m_queue.get(), [snapshot = std::move(snapshot),
+                                    finished = std::move(finished)] {
+        try {
+            QString identifier;
+            const bool saved = save(snapshot, &identifier);
+            onMainThread([saved, identifier, finished] {
+                if (saved)
+                    qCInfo(lcApp, "Auto save completed for file: %s", qUtf8Printable(identifier));
+                else
+                    qCInfo(lcApp, "Auto save failed for file: %s", qUtf8Printable(identifier));
+                if (finished)
+                    finished(saved, identifier);
+            });
+        } catch (const std::exception& exception) {
+            const QString what = QString::fromLocal8Bit(exception.what());
+            qCInfo(lcApp, "Auto save exception: %s", qUtf8Printable(what));
+            onMainThread([what, finished] {
+                qCInfo(lcApp, "Auto save failed with exception: %s", qUtf8Printable(what));
+                if (finished)
+                    finished(false, QString());
+            });
+        }
+    });
 }
 
 void AutoSaveQueue::waitForDone()
@@ -121,7 +122,7 @@ bool AutoSaveQueue::save(const Snapshot& snapshot, QString* identifierOut)
     // crash at any moment leaves either the old transcript or the new one.
     if (std::rename(QFile::encodeName(tempPath).constData(),
                     QFile::encodeName(storePath).constData()) != 0) {
-        qInfo("Failed to replace file: %s", std::strerror(errno));
+        qCInfo(lcApp, "Failed to replace file: %s", std::strerror(errno));
         return false;
     }
     return true;

@@ -1,5 +1,6 @@
 #include "app/BookmarkStore.h"
 
+#include "common/Log.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
 
@@ -54,12 +55,12 @@ bool BookmarkStore::startAccessingDirectory(const QString& path)
 void BookmarkStore::saveBookmarkData(const std::optional<QByteArray>& data, const QString& key)
 {
     if (!data) {
-        qInfo().noquote() << QStringLiteral("No bookmark data to save for key: ") + key;
+        qCInfo(lcApp).noquote() << QStringLiteral("No bookmark data to save for key: ") + key;
         return;
     }
     m_defaults.setObject(QString::fromLatin1(data->toBase64()), key);
     m_defaults.synchronize();
-    qInfo().noquote() << QStringLiteral("Saved bookmark for key: ") + key;
+    qCInfo(lcApp).noquote() << QStringLiteral("Saved bookmark for key: ") + key;
 }
 
 std::optional<QByteArray> BookmarkStore::loadBookmarkDataForKey(const QString& key) const
@@ -92,7 +93,7 @@ void BookmarkStore::restoreLastAudioFile()
     if (!folder || stale) {
         if (stale)
             error = QStringLiteral("%1: the folder no longer exists").arg(*folder);
-        qInfo().noquote() << QStringLiteral("Error resolving directory bookmark: ") + error;
+        qCInfo(lcApp).noquote() << QStringLiteral("Error resolving directory bookmark: ") + error;
         m_defaults.removeObject(bookmarkKey);
         m_defaults.removeObject(fileKey);
         m_defaults.synchronize();

@@ -1,6 +1,7 @@
 #include "app/FileIdentity.h"
 
 #include "common/FileStat.h"
+#include "common/Log.h"
 #include "transcript/DocumentManager.h"
 
 #include <QCryptographicHash>
@@ -30,7 +31,7 @@ std::optional<QString> uniqueIdentifierForFileAtPath(const QString& path)
     QString error;
     const std::optional<QString> key = identityKeyForFileAtPath(path, &error);
     if (!key) {
-        qInfo().noquote() << QStringLiteral("Error getting file attributes: ") + error;
+        qCInfo(lcApp).noquote() << QStringLiteral("Error getting file attributes: ") + error;
         return std::nullopt;
     }
     const QByteArray digest = QCryptographicHash::hash(key->toUtf8(), QCryptographicHash::Sha256);

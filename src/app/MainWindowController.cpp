@@ -1,6 +1,5 @@
 #include "app/MainWindowController.h"
 
-#include "app/Dialogs.h"
 #include "app/IconManager.h"
 #include "app/KeyDownMonitor.h"
 #include "app/RecentDocuments.h"
@@ -9,6 +8,7 @@
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
+#include "dialogs/Dialogs.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "preferences/Keyboard.h"
@@ -37,12 +37,11 @@ MainWindowController::MainWindowController(const SessionServices& services, QWid
     setCentralWidget(m_viewController);
     setupToolbar();
     setupMenus();
-    for (const char* name : {Notifications::AudioPlayStop, Notifications::AudioPlaying,
-                             Notifications::AudioPlaybackDidPause,
-                             Notifications::AudioPlaybackDidResume}) {
-        m_center.addObserver(name, this, [this](const NotificationCenter::Notification&) {
-            playStatusDidChange();
-        });
+    for (const char* name :
+         {Notifications::AudioPlayStop, Notifications::AudioPlaying,
+          Notifications::AudioPlaybackDidPause, Notifications::AudioPlaybackDidResume}) {
+        m_center.addObserver(
+            name, this, [this](const NotificationCenter::Notification&) { playStatusDidChange(); });
     }
     resize(1280, 800);
 }
@@ -62,8 +61,8 @@ void MainWindowController::setupToolbar()
     IconManager& icons = IconManager::shared();
 
     auto add = [&](const char* identifier, const char* icon, const char* label, const char* tip) {
-        QAction* action = toolbar->addAction(icons.iconForName(QLatin1String(icon)),
-                                             LocalizedString(label));
+        QAction* action =
+            toolbar->addAction(icons.iconForName(QLatin1String(icon)), LocalizedString(label));
         action->setObjectName(QLatin1String(identifier));
         action->setToolTip(LocalizedString(tip));
         action->setStatusTip(LocalizedString(tip));
@@ -89,12 +88,10 @@ void MainWindowController::setupToolbar()
     QAction* settings = add("settings", "settings", Texts::ToolbarSettings, Texts::TipSettings);
     connect(settings, &QAction::triggered, this, &MainWindowController::preferencesRequested);
     QAction* import = add("import", "import", Texts::ToolbarImport, Texts::TipImport);
-    connect(import, &QAction::triggered, this,
-            [this] { m_viewController->importTranscription(); });
+    connect(import, &QAction::triggered, this, [this] { m_viewController->importTranscription(); });
     needsLesson(import);
     QAction* clear = add("clear", "clear", Texts::ToolbarClear, Texts::TipClear);
-    connect(clear, &QAction::triggered, this,
-            [this] { m_viewController->clearTranscription(); });
+    connect(clear, &QAction::triggered, this, [this] { m_viewController->clearTranscription(); });
     needsLesson(clear);
     QAction* music = add("importFromMusicLibrary", "music", Texts::ToolbarMusic, Texts::TipMusic);
     connect(music, &QAction::triggered, this,
@@ -116,8 +113,9 @@ void MainWindowController::setupMenus()
     };
 
     QMenu* file = addMenu("menuFile", Texts::MenuFile);
-    item(file, "menuOpen", Texts::MenuOpen, [this] { m_viewController->openFile(); })
-        ->setShortcut(QKeySequence::Open);
+    item(file, "menuOpen", Texts::MenuOpen, [this] {
+        m_viewController->openFile();
+    })->setShortcut(QKeySequence::Open);
     m_recentMenu = file->addMenu(LocalizedString(Texts::MenuOpenRecent));
     m_recentMenu->setObjectName(QStringLiteral("menuOpenRecent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindowController::rebuildRecentMenu);
@@ -145,10 +143,10 @@ void MainWindowController::setupMenus()
 
     QMenu* view = addMenu("menuView", Texts::MenuView);
     QMenu* sizes = view->addMenu(LocalizedString(Texts::MenuWindowSize));
-    for (const QSize& size : {QSize(1280, 800), QSize(1440, 900), QSize(1920, 1080),
-                              QSize(2560, 1600)}) {
-        QAction* preset = sizes->addAction(
-            QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+    for (const QSize& size :
+         {QSize(1280, 800), QSize(1440, 900), QSize(1920, 1080), QSize(2560, 1600)}) {
+        QAction* preset =
+            sizes->addAction(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
         connect(preset, &QAction::triggered, this,
                 [this, size] { emit sizePresetRequested(size.width(), size.height()); });
     }
@@ -385,4 +383,29 @@ void MainWindowController::closeEvent(QCloseEvent* event)
     });
     box->setWindowModality(Qt::WindowModal);
     box->open();
+}
+
+QString MainWindowController::mprisAudioPath() const
+{
+    return m_viewController->currentAudioPath();
+}
+
+void MainWindowController::mprisTogglePlayPause()
+{
+    m_viewController->togglePlayPause();
+}
+
+void MainWindowController::mprisNextSegment()
+{
+    m_viewController->playNextSegment();
+}
+
+void MainWindowController::mprisPreviousSegment()
+{
+    m_viewController->playPreviousSegment();
+}
+
+void MainWindowController::mprisOpenFile(const QString& path)
+{
+    m_viewController->openFileFromPath(path);
 }

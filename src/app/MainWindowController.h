@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/SessionServices.h"
+#include "desktop/MprisWindow.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -17,7 +18,7 @@ class ViewController;
 // to whoever listens to its signals (the application delegate). Every toolbar
 // command is also a menu item, every menu has its mnemonics, F10 opens the
 // menu bar, and the commands that need a lesson are disabled without one.
-class MainWindowController : public QMainWindow
+class MainWindowController : public QMainWindow, public MprisWindow
 {
     Q_OBJECT
 public:
@@ -47,6 +48,14 @@ public:
     // direct road once it opens as audio ("Error Opening File" otherwise).
     void toolbarItemImportFromMusicLibrary();
     void handleSelectedMusicFile(const QString& path);
+
+    // What the desktop's media keys reach.
+    QWidget* mprisWidget() override { return this; }
+    QString mprisAudioPath() const override;
+    void mprisTogglePlayPause() override;
+    void mprisNextSegment() override;
+    void mprisPreviousSegment() override;
+    void mprisOpenFile(const QString& path) override;
 
 signals:
     void preferencesRequested();

@@ -1,5 +1,6 @@
 #include "app/UpdateAlertSheets.h"
 
+#include "common/Log.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 
@@ -57,11 +58,11 @@ void UpdateAlertSheets::showUpdateAlert(const UpdateOffer& offer)
             return;
         // Only a web page is ever opened, whatever the answer named.
         if (!isWebAddress(url)) {
-            qInfo("checkupdate:no store page to open");
+            qCInfo(lcApp, "checkupdate:no store page to open");
             return;
         }
         if (!opener(url))
-            qInfo("checkupdate:could not open %s", qPrintable(url.toString()));
+            qCInfo(lcApp, "checkupdate:could not open %s", qPrintable(url.toString()));
     });
     box->open();
 }

@@ -2,13 +2,14 @@
 // what the engine holds and plays the first segment.
 
 #include "app/BookmarkStore.h"
-#include "app/Dialogs.h"
 #include "app/LoadingIndicator.h"
 #include "app/RecentDocuments.h"
 #include "app/ViewController.h"
 #include "audio/AudioDecoder.h"
 #include "audio/AudioManager.h"
+#include "common/Log.h"
 #include "common/ThreadHandOff.h"
+#include "dialogs/Dialogs.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "views/TranscriptionTableView.h"
@@ -109,7 +110,7 @@ void ViewController::finishOpening(bool success, const QString& path)
         m_currentAudioPath = loaded;
         initTranscription();
         const QFileInfo file(loaded);
-        qInfo("File name with extension: %s", qUtf8Printable(file.fileName()));
+        qCInfo(lcApp, "File name with extension: %s", qUtf8Printable(file.fileName()));
         changeWindowTitle(file.completeBaseName());
         showEngineSegmentsAndPlay();
         RecentDocuments(m_defaults).add(loaded);
@@ -186,9 +187,8 @@ void ViewController::openFile()
     QStringList offered = audioFileExtensions();
     offered.removeAll(QStringLiteral("m4r"));
     Dialogs::selectFileWithExtensions(
-        offered,
-        [self = QPointer<ViewController>(this)](std::optional<QString> path,
-                                                std::optional<Dialogs::FileSelectionError>) {
+        offered, [self = QPointer<ViewController>(this)](
+                     std::optional<QString> path, std::optional<Dialogs::FileSelectionError>) {
             if (self.isNull() || !path)
                 return;
             self.data()->openFileChosen(*path);
@@ -197,7 +197,7 @@ void ViewController::openFile()
 
 void ViewController::openFileChosen(const QString& path)
 {
-    qInfo("file:%s", qUtf8Printable(path));
+    qCInfo(lcApp, "file:%s", qUtf8Printable(path));
     handleSelectedFile(path);
 }
 
@@ -275,7 +275,7 @@ void ViewController::requestDirectoryAccess(
         const QString directory = chosen.first();
         const QByteArray bookmark = BookmarkStore::bookmarkDataForDirectory(directory);
         if (bookmark.isEmpty()) {
-            qInfo("Error creating directory bookmark: %s", qUtf8Printable(directory));
+            qCInfo(lcApp, "Error creating directory bookmark: %s", qUtf8Printable(directory));
             completion(false, QString());
             return;
         }

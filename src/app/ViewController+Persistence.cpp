@@ -2,10 +2,11 @@
 // typed: in the background as the learner moves on, by export, on close.
 
 #include "app/AutoSaveQueue.h"
-#include "app/Dialogs.h"
 #include "app/FileIdentity.h"
 #include "app/ViewController.h"
 #include "audio/AudioManager.h"
+#include "common/Log.h"
+#include "dialogs/Dialogs.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 #include "transcript/DocumentManager.h"
@@ -32,7 +33,7 @@ void ViewController::initTranscription()
 {
     const QString path = transcriptionStorePath();
     if (path.isEmpty() || !m_transcriptions.loadTranscriptionsFromFile(path)) {
-        qInfo("Failed to load transcription");
+        qCInfo(lcApp, "Failed to load transcription");
         initEmptyTranscriptions();
         return;
     }
@@ -95,9 +96,8 @@ bool ViewController::saveTranscriptionToSandbox()
         FileIdentity::uniqueIdentifierForFileAtPath(m_currentAudioPath);
     if (!identifier)
         return false;
-    qInfo("File identifier: %s", qUtf8Printable(*identifier));
-    const QString path =
-        FileIdentity::transcriptionPathForIdentifier(*identifier, m_documents);
+    qCInfo(lcApp, "File identifier: %s", qUtf8Printable(*identifier));
+    const QString path = FileIdentity::transcriptionPathForIdentifier(*identifier, m_documents);
     if (path.isEmpty())
         return false;
     return m_transcriptions.saveTranscriptionsToFile(path);
@@ -112,7 +112,7 @@ void ViewController::saveTranscriptionWithCompletion(const std::function<void(bo
         const QString path =
             result == QDialog::Accepted ? panel->selectedFiles().value(0) : QString();
         if (path.isEmpty()) {
-            qInfo("No file selected");
+            qCInfo(lcApp, "No file selected");
             completion(false);
             return;
         }
@@ -164,11 +164,11 @@ void ViewController::importTranscription()
     std::optional<Dialogs::FileSelectionError> error;
     const std::optional<QString> path = Dialogs::asyncSelectTranscript(&error);
     if (error) {
-        qInfo("Error: %s", qUtf8Printable(error->localizedDescription));
+        qCInfo(lcApp, "Error: %s", qUtf8Printable(error->localizedDescription));
         return;
     }
     if (!path) {
-        qInfo("importTranscription filepath is nil");
+        qCInfo(lcApp, "importTranscription filepath is nil");
         return;
     }
     importTranscriptionFrom(*path);
@@ -176,7 +176,7 @@ void ViewController::importTranscription()
 
 void ViewController::importTranscriptionFrom(const QString& path)
 {
-    qInfo("Selected file: %s", qUtf8Printable(path));
+    qCInfo(lcApp, "Selected file: %s", qUtf8Printable(path));
     if (!m_transcriptions.loadTranscriptionsFromFile(path)) {
         Dialogs::showModalAlert(LocalizedString(Texts::Error),
                                 LocalizedString(Texts::FailedToLoadTranscription),
@@ -202,25 +202,26 @@ void ViewController::clearTranscription()
     if (isProcessing() || m_engine.numberOfSegments() == 0)
         return;
     QPointer<ViewController> self(this);
-    Dialogs::showAlertWithTitle(
-        LocalizedString(Texts::Warning), LocalizedString(Texts::ConfirmClearDictation),
-        LocalizedString(Texts::OK), LocalizedString(Texts::Cancel), window(),
-        [self](bool confirmed) {
-            if (!confirmed || self.isNull())
-                return;
-            ViewController* session = self.data();
-            // The table's report of row 0 that follows starts the usual save.
-            session->initEmptyTranscriptions();
-            session->playFirstSegment();
-        });
+    Dialogs::showAlertWithTitle(LocalizedString(Texts::Warning),
+                                LocalizedString(Texts::ConfirmClearDictation),
+                                LocalizedString(Texts::OK), LocalizedString(Texts::Cancel),
+                                window(), [self](bool confirmed) {
+                                    if (!confirmed || self.isNull())
+                                        return;
+                                    ViewController* session = self.data();
+                                    // The table's report of row 0 that follows starts the usual
+                                    // save.
+                                    session->initEmptyTranscriptions();
+                                    session->playFirstSegment();
+                                });
 }
 
 QString ViewController::applicationSupportDirectory()
 {
     const QString path = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (path.isEmpty() || !QDir().mkpath(path)) {
-        qInfo("Error creating application support directory: %s",
-              qUtf8Printable(path.isEmpty() ? QStringLiteral("no data location") : path));
+        qCInfo(lcApp, "Error creating application support directory: %s",
+               qUtf8Printable(path.isEmpty() ? QStringLiteral("no data location") : path));
         return {};
     }
     return path;

@@ -1,8 +1,9 @@
 // The status bar, the window title and the error alert.
 
-#include "app/Dialogs.h"
 #include "app/StatusText.h"
 #include "app/ViewController.h"
+#include "common/Log.h"
+#include "dialogs/Dialogs.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
 
@@ -34,6 +35,6 @@ void ViewController::changeWindowTitle(const QString& title)
 
 void ViewController::showError(const QString& title, const QString& message)
 {
-    qInfo("Error: %s - %s", qUtf8Printable(title), qUtf8Printable(message));
+    qCInfo(lcApp, "Error: %s - %s", qUtf8Printable(title), qUtf8Printable(message));
     Dialogs::showModalAlert(title, message, QStringLiteral("OK"), true);
 }

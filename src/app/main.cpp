@@ -4,6 +4,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/MainWindowController.h"
+#include "common/Log.h"
 #include "desktop/MprisService.h"
 #include "localization/LanguageManager.h"
 #include "preferences/DefaultPreferences.h"
@@ -17,6 +18,7 @@
 
 int main(int argc, char* argv[])
 {
+    Log::writeOwnLinesPlain();
     QApplication::setApplicationName(QStringLiteral("Kelmora"));
     QApplication::setOrganizationName(QStringLiteral("Kelmora"));
     QApplication::setApplicationVersion(QStringLiteral(KELMORA_VERSION));
@@ -36,8 +38,9 @@ int main(int argc, char* argv[])
 
     // The default table font names a Mac font; here it stands for the
     // desktop's fixed-width font.
-    QFont::insertSubstitution(QStringLiteral("Menlo"),
-                              QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).family());
+    QFont::insertSubstitution(
+        QStringLiteral("Menlo"),
+        QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).family());
 
     // Every preference has its value before the first window reads one.
     regDefaultPreference(Defaults::standard());

@@ -10,6 +10,7 @@
 #include "audio/ChunkedAnalysis.h"
 #include "audio/FourCC.h"
 #include "audio/Loudness.h"
+#include "common/Log.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -73,7 +74,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     if (!decoder.open(path)) {
         // An unreadable file has no samples: that is how it is reported.
         m_sampleRate = 0.0f;
-        qInfo("audio samples is 0");
+        qCInfo(lcAudio, "audio samples is 0");
         if (QFileInfo(path).size() == 0)
             return fail(QStringLiteral("the file is empty"));
         return fail(
@@ -84,7 +85,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     m_sampleRate = static_cast<float>(info.sampleRate);
 
     if (!decoder.openCodec()) {
-        qInfo("Error reopening audio file: %s", qPrintable(decoder.errorString()));
+        qCInfo(lcAudio, "Error reopening audio file: %s", qPrintable(decoder.errorString()));
         return fail(QStringLiteral("cannot decode %1 audio (%2)")
                         .arg(info.codecName, decoder.errorString()));
     }
@@ -103,7 +104,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
             parts = plan.parts();
         if (!decoded) {
             // Read again from the start; the bar goes on from where it stood.
-            qInfo("Reading in one pass: %s", qPrintable(chunked.refusal()));
+            qCInfo(lcAudio, "Reading in one pass: %s", qPrintable(chunked.refusal()));
             if (!decoder.open(path) || !decoder.openCodec())
                 return fail(QStringLiteral("cannot decode %1 audio (%2)")
                                 .arg(info.codecName, decoder.errorString()));
@@ -119,7 +120,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
             m_progress.store(base + (1.0 - base) * done, std::memory_order_relaxed);
         });
         if (pass.run(decoder) != AnalysisPass::Outcome::Done) {
-            qInfo("Error reading audio file: %s", qPrintable(pass.errorString()));
+            qCInfo(lcAudio, "Error reading audio file: %s", qPrintable(pass.errorString()));
             return fail(
                 QStringLiteral("the audio data cannot be read (%1)").arg(pass.errorString()));
         }
@@ -128,7 +129,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     const qint64 frames = decoded->frames;
 
     if (frames == 0) {
-        qInfo("audio samples is 0");
+        qCInfo(lcAudio, "audio samples is 0");
         return fail(QStringLiteral("the file holds no audio samples"));
     }
     // A file that stops well before the length its header states has been cut
@@ -141,7 +142,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
             QStringLiteral("the audio ends at %1 s although the file states %2 s")
                 .arg(decodedSeconds, 0, 'f', 1)
                 .arg(info.duration, 0, 'f', 1);
-        qInfo("Error reading audio file: %s", qPrintable(reason));
+        qCInfo(lcAudio, "Error reading audio file: %s", qPrintable(reason));
         return fail(reason + QStringLiteral("; it may be truncated or damaged"));
     }
     AudioCharacteristics characteristics;
@@ -159,7 +160,7 @@ bool AudioManager::analyzeAudioCharacteristics(const QString& path)
     const bool stated = info.duration > 0.0 && !info.durationEstimated;
     m_duration = stated ? info.duration : decodedSeconds;
     if (0.1 > m_duration) {
-        qInfo("Error audio duration");
+        qCInfo(lcAudio, "Error audio duration");
         return fail(QStringLiteral("the audio lasts less than 0.1 s"));
     }
 

@@ -6,6 +6,7 @@
 #include "audio/AudioPlayer.h"
 #include "audio/PositionTickers.h"
 #include "common/Clock.h"
+#include "common/Log.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
 #include "common/ThreadHandOff.h"
@@ -37,7 +38,7 @@ bool AudioManager::createAudioPlayer(const QString& path)
     std::unique_ptr<AudioPlayer> player = AudioPlayer::create(path, std::move(output), &error);
     if (!player) {
         // The player of the file held before stays, with the rest of it.
-        qInfo("Error creating audio player: %s", qPrintable(error));
+        qCInfo(lcAudio, "Error creating audio player: %s", qPrintable(error));
         fail(QStringLiteral("the audio cannot be played (%1)").arg(error));
         return false;
     }
@@ -75,8 +76,8 @@ void AudioManager::playSegmentAtIndex(qint64 index)
     if (index == 0)
         m_isPlaybackFinished = false;
     if (index == m_currentSegmentIndex && isPlaying()) {
-        qInfo("playSegmentAtIndex: self.currentSegmentIndex==index,index=%lu,return",
-              static_cast<unsigned long>(index));
+        qCInfo(lcAudio, "playSegmentAtIndex: self.currentSegmentIndex==index,index=%lu,return",
+               static_cast<unsigned long>(index));
         return;
     }
     if (index >= m_segments.size()) // callers never ask for one; nothing to play
@@ -277,8 +278,8 @@ void AudioManager::retimePlayTimer()
     if (!segmentEnd && m_playTimerRole != PlayTimerRole::ResumeEnd)
         return;
     const double end = segmentEnd ? m_segmentEndSource : m_resumeEndSource;
-    const double left = std::max(end - m_audioPlayer->currentTime(), 0.0) /
-                        static_cast<double>(m_currentRate);
+    const double left =
+        std::max(end - m_audioPlayer->currentTime(), 0.0) / static_cast<double>(m_currentRate);
     m_playTimer->invalidate();
     if (segmentEnd) {
         m_segmentEndRearms = 0;
@@ -347,11 +348,11 @@ void AudioManager::closeAudioFile()
 
 void AudioManager::audioPlayerDidFinishPlaying(bool)
 {
-    qInfo("Audio playback finished");
+    qCInfo(lcAudio, "Audio playback finished");
     m_isPlaybackFinished = true;
 }
 
 void AudioManager::audioPlayerDecodeErrorDidOccur(const QString& error)
 {
-    qInfo("Decode error: %s", qPrintable(error));
+    qCInfo(lcAudio, "Decode error: %s", qPrintable(error));
 }

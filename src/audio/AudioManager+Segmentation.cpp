@@ -2,6 +2,7 @@
 
 #include "audio/AudioManager.h"
 #include "audio/Segmentation.h"
+#include "common/Log.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
 #include "common/ThreadHandOff.h"
@@ -16,8 +17,8 @@ void AudioManager::calculateAdaptiveThresholds()
     const AudioCharacteristics& c = m_characteristics;
     const int level = static_cast<int>(m_sensitivity);
     m_adaptiveThreshold = Segmentation::adaptiveThreshold(c.averageRMS, c.stdDev, c.maxRMS, level);
-    qInfo("Calculated adaptive threshold: %.6f (sensitivity: %s)",
-          static_cast<double>(m_adaptiveThreshold), Segmentation::sensitivityName(level));
+    qCInfo(lcAudio, "Calculated adaptive threshold: %.6f (sensitivity: %s)",
+           static_cast<double>(m_adaptiveThreshold), Segmentation::sensitivityName(level));
 }
 
 void AudioManager::detectSilenceWithDynamicWindow()
@@ -33,18 +34,18 @@ void AudioManager::detectSilenceWithDynamicWindow()
 void AudioManager::printSliencSegment(const QList<Silence>& silences,
                                       const SegmentList& segments) const
 {
-    qInfo("Found %lu silence segments:", static_cast<unsigned long>(silences.size()));
+    qCInfo(lcAudio, "Found %lu silence segments:", static_cast<unsigned long>(silences.size()));
     long number = 1;
     for (const Silence& s : silences) {
-        qInfo("Silence: %ld,start=%.2fs, duration=%.2fs, midPoint=%.2fs", number++,
-              static_cast<double>(s.start), static_cast<double>(s.duration),
-              static_cast<double>(s.midPoint));
+        qCInfo(lcAudio, "Silence: %ld,start=%.2fs, duration=%.2fs, midPoint=%.2fs", number++,
+               static_cast<double>(s.start), static_cast<double>(s.duration),
+               static_cast<double>(s.midPoint));
     }
-    qInfo("Created %lu segments using silence midpoints:",
-          static_cast<unsigned long>(segments.size()));
+    qCInfo(lcAudio, "Created %lu segments using silence midpoints:",
+           static_cast<unsigned long>(segments.size()));
     number = 1;
     for (const Segment& s : segments)
-        qInfo("Segment: %ld,start=%.2fs, duration=%.2fs", number++, s.start, s.duration);
+        qCInfo(lcAudio, "Segment: %ld,start=%.2fs, duration=%.2fs", number++, s.start, s.duration);
 }
 
 AudioManager::LoadedFile AudioManager::loadedFile() const
@@ -133,7 +134,7 @@ bool AudioManager::updateSegments(const SegmentList& segments)
 double AudioManager::getTimestampForIndex(qint64 index) const
 {
     if (index < 0 || index >= m_segments.size()) {
-        qInfo("Invalid segment index: %ld", static_cast<long>(index));
+        qCInfo(lcAudio, "Invalid segment index: %ld", static_cast<long>(index));
         return 0.0;
     }
     return m_segments[index].start;
@@ -149,8 +150,8 @@ void AudioManager::mergeSegments()
         Segment& last = merged.last();
         const float gap = static_cast<float>(current.start) - static_cast<float>(last.end());
         if (m_minGapDuration > gap) {
-            qInfo("Merged segments: %.2f-%.2f and %.2f-%.2f (gap: %.2f)", last.start, last.end(),
-                  current.start, current.end(), static_cast<double>(gap));
+            qCInfo(lcAudio, "Merged segments: %.2f-%.2f and %.2f-%.2f (gap: %.2f)", last.start,
+                   last.end(), current.start, current.end(), static_cast<double>(gap));
             last = {last.start, current.end() - last.start};
         } else {
             merged.append(current);

@@ -2,6 +2,7 @@
 
 #include "audio/NullAudioOutput.h"
 #include "audio/QtAudioOutput.h"
+#include "common/Log.h"
 
 #include <QDebug>
 #include <atomic>
@@ -15,6 +16,6 @@ std::unique_ptr<AudioOutput> AudioOutput::createDefault()
     if (QtAudioOutput::deviceAvailable())
         return std::make_unique<QtAudioOutput>();
     if (!g_saidSilent.exchange(true))
-        qInfo("No audio output device; playback continues silently");
+        qCInfo(lcAudio, "No audio output device; playback continues silently");
     return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime);
 }

@@ -2,6 +2,7 @@
 
 #include "audio/AudioDecoder.h"
 #include "audio/NullAudioOutput.h"
+#include "common/Log.h"
 #include "common/ThreadHandOff.h"
 
 #include <QDebug>
@@ -74,8 +75,8 @@ bool AudioPlayer::prepareToPlay()
         return true;
     m_deviceFrames = 0;
     if (!m_output->start(m_format, this)) {
-        qInfo("Audio output unavailable (%s); playback continues silently",
-              qPrintable(m_output->errorString()));
+        qCInfo(lcAudio, "Audio output unavailable (%s); playback continues silently",
+               qPrintable(m_output->errorString()));
         m_output = std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime);
         m_output->start(m_format, this);
     }

@@ -1,5 +1,7 @@
 #include "audio/QtAudioOutput.h"
 
+#include "common/Log.h"
+
 #include <QAudioDevice>
 #include <QAudioFormat>
 #include <QAudioSink>
@@ -130,8 +132,14 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
     m_sink = new QAudioSink(device, qformat, m_host);
     m_sink->setBufferSize(static_cast<qsizetype>(m_bytesPerSecond * kBufferSeconds));
     QObject::connect(m_sink, &QAudioSink::stateChanged, m_host, [this](QAudio::State) {
-        if (m_sink && m_sink->error() != QAudio::NoError)
-            qInfo("Audio output error: %s", qPrintable(describeError(m_sink->error())));
+        if (!m_sink || m_sink->error() == QAudio::NoError)
+            return;
+        // The sink runs dry whenever nothing is fed (paused, between
+        // segments): that is no error, and only a debugging rule shows it.
+        if (m_sink->error() == QAudio::UnderrunError)
+            qCDebug(lcAudio, "Audio output idle: %s", qPrintable(describeError(m_sink->error())));
+        else
+            qCInfo(lcAudio, "Audio output error: %s", qPrintable(describeError(m_sink->error())));
     });
     m_taken.store(0, std::memory_order_relaxed);
     m_origin.store(-1.0, std::memory_order_relaxed);
@@ -155,7 +163,8 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
         if (!m_sink)
             return;
         const double taken = double(m_taken.load(std::memory_order_acquire));
-        const double played = std::min(double(m_sink->processedUSecs()) * m_sampleRate / 1e6, taken);
+        const double played =
+            std::min(double(m_sink->processedUSecs()) * m_sampleRate / 1e6, taken);
         m_origin.store(steadySeconds() - played / m_sampleRate, std::memory_order_release);
     });
     m_playedTimer->start(20);

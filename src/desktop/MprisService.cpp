@@ -1,11 +1,11 @@
 #include "desktop/MprisService.h"
 
-#include "app/MainWindowController.h"
-#include "app/ViewController.h"
 #include "audio/AudioManager.h"
+#include "common/Log.h"
 #include "desktop/MprisPlayerAdaptor.h"
 #include "desktop/MprisRootAdaptor.h"
 #include "desktop/MprisState.h"
+#include "desktop/MprisWindow.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusInterface>
@@ -29,8 +29,8 @@ MprisService::MprisService(AudioManager& engine, NotificationCenter& center,
     m_state = new MprisState(
         center,
         [this]() -> QString {
-            MainWindowController* window = m_window.data();
-            return window ? window->viewController()->currentAudioPath() : QString();
+            MprisWindow* shown = window();
+            return shown ? shown->mprisAudioPath() : QString();
         },
         this);
     connect(m_state, &MprisState::changed, this, &MprisService::propertiesChanged);
@@ -49,7 +49,7 @@ MprisService::~MprisService()
 MprisService::Claim MprisService::claimBusName()
 {
     if (!m_bus.isConnected()) {
-        qInfo("mpris:no session bus, media keys are off");
+        qCInfo(lcDesktop, "mpris:no session bus, media keys are off");
         return Claim::NoBus;
     }
     // The object is there before the name, so no call finds the name without it.
@@ -66,7 +66,7 @@ MprisService::Claim MprisService::claimBusName()
     }
     if (m_bus.interface()->isServiceRegistered(QLatin1String(BusName)))
         return Claim::OwnedElsewhere;
-    qInfo("mpris:could not own %s: %s", BusName, qPrintable(reply.error().message()));
+    qCInfo(lcDesktop, "mpris:could not own %s: %s", BusName, qPrintable(reply.error().message()));
     return Claim::NoBus;
 }
 
@@ -90,25 +90,31 @@ bool MprisService::handOverToRunningInstance(const QStringList& paths)
         const QString uri = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toString();
         const QDBusMessage answer = player.call(QStringLiteral("OpenUri"), uri);
         if (answer.type() == QDBusMessage::ErrorMessage) {
-            qInfo("mpris:the running instance did not take %s: %s", qPrintable(uri),
-                  qPrintable(answer.errorMessage()));
+            qCInfo(lcDesktop, "mpris:the running instance did not take %s: %s", qPrintable(uri),
+                   qPrintable(answer.errorMessage()));
             return false;
         }
-        qInfo("mpris:handed %s to the running instance", qPrintable(uri));
+        qCInfo(lcDesktop, "mpris:handed %s to the running instance", qPrintable(uri));
     }
     const QDBusMessage raised = root.call(QStringLiteral("Raise"));
     return raised.type() != QDBusMessage::ErrorMessage;
 }
 
-void MprisService::attachWindow(MainWindowController* window)
+void MprisService::attachWindow(MprisWindow* window)
 {
     m_window = window;
+    m_widget = window ? window->mprisWidget() : nullptr;
+}
+
+MprisWindow* MprisService::window() const
+{
+    return m_widget ? m_window : nullptr;
 }
 
 void MprisService::playPause()
 {
-    if (MainWindowController* window = m_window.data())
-        window->viewController()->togglePlayPause();
+    if (MprisWindow* shown = window())
+        shown->mprisTogglePlayPause();
 }
 
 void MprisService::play()
@@ -125,19 +131,19 @@ void MprisService::pause()
 
 void MprisService::next()
 {
-    if (MainWindowController* window = m_window.data())
-        window->viewController()->playNextSegment();
+    if (MprisWindow* shown = window())
+        shown->mprisNextSegment();
 }
 
 void MprisService::previous()
 {
-    if (MainWindowController* window = m_window.data())
-        window->viewController()->playPreviousSegment();
+    if (MprisWindow* shown = window())
+        shown->mprisPreviousSegment();
 }
 
 void MprisService::raise()
 {
-    MainWindowController* window = m_window.data();
+    QWidget* window = m_widget.data();
     if (!window)
         return;
     if (window->isMinimized())
@@ -151,20 +157,20 @@ void MprisService::raise()
 void MprisService::quit()
 {
     // The window's own close asks about unsaved dictation first.
-    if (MainWindowController* window = m_window.data())
+    if (QWidget* window = m_widget.data())
         window->close();
 }
 
 void MprisService::openUri(const QString& uri)
 {
     const QUrl url(uri);
-    MainWindowController* window = m_window.data();
-    if (!window || !url.isLocalFile()) {
-        qInfo("mpris:not opening %s", qPrintable(uri));
+    MprisWindow* shown = window();
+    if (!shown || !url.isLocalFile()) {
+        qCInfo(lcDesktop, "mpris:not opening %s", qPrintable(uri));
         return;
     }
     // The direct road, as for a file given on the command line.
-    window->viewController()->openFileFromPath(url.toLocalFile());
+    shown->mprisOpenFile(url.toLocalFile());
     raise();
 }
 

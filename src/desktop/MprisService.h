@@ -5,10 +5,11 @@
 #include <QPointer>
 #include <QStringList>
 #include <QVariantMap>
+#include <QWidget>
 
 class AudioManager;
-class MainWindowController;
 class MprisState;
+class MprisWindow;
 class NotificationCenter;
 
 // Kelmora on the session bus as an MPRIS 2 player: the desktop's media keys
@@ -43,7 +44,7 @@ public:
     // Lets the name go, so that a new process started in this one's place
     // (a restart for a new language) owns it instead of handing over to us.
     void releaseBusName();
-    void attachWindow(MainWindowController* window);
+    void attachWindow(MprisWindow* window);
 
     // What the bus calls reach.
     void playPause();
@@ -65,7 +66,10 @@ private:
     AudioManager& m_engine;
     QDBusConnection m_bus;
     MprisState* m_state;
-    QPointer<MainWindowController> m_window;
+    // The window reached through its interface, while its widget lives.
+    MprisWindow* window() const;
+    MprisWindow* m_window = nullptr;
+    QPointer<QWidget> m_widget;
     bool m_registered = false;
     bool m_ownsName = false;
 };

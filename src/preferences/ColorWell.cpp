@@ -1,6 +1,6 @@
 #include "preferences/ColorWell.h"
 
-#include "app/Utility.h"
+#include "common/Utility.h"
 
 #include <QColorDialog>
 #include <QPainter>

@@ -1,5 +1,6 @@
 #include "preferences/ObjectStorage.h"
 
+#include "common/Log.h"
 #include "preferences/ArchivedObjects.h"
 #include "preferences/Defaults.h"
 
@@ -29,7 +30,8 @@ bool registerObject(Defaults& store, const Family<T>& family, const QString& key
     QString error;
     const std::optional<QByteArray> data = family.archive(object, &error);
     if (!data) {
-        qInfo("Error archiving %s for key %s: %s", family.word, qPrintable(key), qPrintable(error));
+        qCInfo(lcPreferences, "Error archiving %s for key %s: %s", family.word, qPrintable(key),
+               qPrintable(error));
         return false;
     }
     store.registerDefaults({{key, *data}});
@@ -42,7 +44,7 @@ bool setObject(Defaults& store, const Family<T>& family, const QString& key, con
     QString error;
     const std::optional<QByteArray> data = family.archive(object, &error);
     if (!data) {
-        qInfo("Error archiving %s: %s", family.word, qPrintable(error));
+        qCInfo(lcPreferences, "Error archiving %s: %s", family.word, qPrintable(error));
         return false;
     }
     store.setObject(*data, key);
@@ -64,7 +66,7 @@ std::optional<T> objectForKey(const Defaults& store, const Family<T>& family, co
     else
         object = family.unarchive(value.toByteArray(), &error);
     if (!object)
-        qInfo("Error unarchiving %s: %s", family.word, qPrintable(error));
+        qCInfo(lcPreferences, "Error unarchiving %s: %s", family.word, qPrintable(error));
     return object;
 }
 

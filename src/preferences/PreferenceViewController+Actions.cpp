@@ -2,10 +2,10 @@
 // and tells the rest of the application; reset, the font dialog and the
 // restart prompt.
 
-#include "app/Dialogs.h"
 #include "audio/AudioManager.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
+#include "dialogs/Dialogs.h"
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"

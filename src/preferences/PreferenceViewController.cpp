@@ -1,7 +1,8 @@
 #include "preferences/PreferenceViewController.h"
 
-#include "app/Utility.h"
 #include "audio/AudioManager.h"
+#include "common/Log.h"
+#include "common/Utility.h"
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
@@ -198,7 +199,8 @@ QWidget* PreferenceViewController::buildAppearanceTab()
             &PreferenceViewController::showFontPanel);
     form->addRow(buddyLabel(Texts::FontLabel, m_fontDisplayLabel), m_fontDisplayLabel);
 
-    auto makeSwitch = [&](const char* name, const char* text, void (PreferenceViewController::*slot)(bool)) {
+    auto makeSwitch = [&](const char* name, const char* text,
+                          void (PreferenceViewController::*slot)(bool)) {
         auto* box = new QCheckBox(LocalizedString(text));
         box->setObjectName(QLatin1String(name));
         connect(box, &QCheckBox::toggled, this, slot);
@@ -241,8 +243,8 @@ void PreferenceViewController::initKeyboardShortcuts()
         // order wins at play time.
         connect(m_shortcutFields[i], &ShortcutTextField::shortcutChanged, this,
                 [this, key](qint64 keyCode, quint64 flags) {
-                    ObjectStorage(m_defaults).setKeyboardShortcut(KeyboardShortcut(keyCode, flags),
-                                                                  key);
+                    ObjectStorage(m_defaults)
+                        .setKeyboardShortcut(KeyboardShortcut(keyCode, flags), key);
                     m_defaults.synchronize();
                 });
     }
@@ -321,26 +323,27 @@ void PreferenceViewController::updateFontDisplayLabel()
 void PreferenceViewController::printPreference() const
 {
     auto hex = [](const QColor& c) { return Utility::hexStringFromColor(c).value_or(QString()); };
-    qInfo("========Preference===================================================");
-    qInfo("minSegmentDuration=%f", m_minSegmentDurationStepper->value());
-    qInfo("playSpeed=%f", m_playSpeedStepper->value());
-    qInfo("repeatPlayTimes=%d", m_repeatPlayTimesStepper->value());
+    qCInfo(lcPreferences, "========Preference===================================================");
+    qCInfo(lcPreferences, "minSegmentDuration=%f", m_minSegmentDurationStepper->value());
+    qCInfo(lcPreferences, "playSpeed=%f", m_playSpeedStepper->value());
+    qCInfo(lcPreferences, "repeatPlayTimes=%d", m_repeatPlayTimesStepper->value());
     const QColor text = m_dictationTextColorWell->color();
     const QColor background = m_tableBackgroundColorWell->color();
-    qInfo("dictationTextColor=%s,value=%s", qUtf8Printable(text.name(QColor::HexArgb)),
-          qUtf8Printable(hex(text)));
-    qInfo("tableBackgroundColor=%s,value=%s", qUtf8Printable(background.name(QColor::HexArgb)),
-          qUtf8Printable(hex(background)));
-    qInfo("showLineNumber=%d", int(m_showLineNumbersSwitch->isChecked()));
-    qInfo("showAudioWave=%d", int(m_showAudioWaveSwitch->isChecked()));
-    qInfo("showStatusBar=%d", int(m_showStatusBarSwitch->isChecked()));
-    qInfo("dictionfont=%s", qUtf8Printable(m_fontDisplayLabel->text()));
+    qCInfo(lcPreferences, "dictationTextColor=%s,value=%s",
+           qUtf8Printable(text.name(QColor::HexArgb)), qUtf8Printable(hex(text)));
+    qCInfo(lcPreferences, "tableBackgroundColor=%s,value=%s",
+           qUtf8Printable(background.name(QColor::HexArgb)), qUtf8Printable(hex(background)));
+    qCInfo(lcPreferences, "showLineNumber=%d", int(m_showLineNumbersSwitch->isChecked()));
+    qCInfo(lcPreferences, "showAudioWave=%d", int(m_showAudioWaveSwitch->isChecked()));
+    qCInfo(lcPreferences, "showStatusBar=%d", int(m_showStatusBarSwitch->isChecked()));
+    qCInfo(lcPreferences, "dictionfont=%s", qUtf8Printable(m_fontDisplayLabel->text()));
     for (std::size_t i = 0; i < ShortcutCount; ++i) {
         const ShortcutTextField* field = m_shortcutFields[i];
-        qInfo("%s key,%s,keycode=%lld,modifierflags=%llu", shortcutBindings()[i].fieldIdentifier,
-              qUtf8Printable(Keyboard::keyCodeToString(field->keyCode())),
-              static_cast<long long>(field->keyCode()),
-              static_cast<unsigned long long>(field->modifierFlags()));
+        qCInfo(lcPreferences, "%s key,%s,keycode=%lld,modifierflags=%llu",
+               shortcutBindings()[i].fieldIdentifier,
+               qUtf8Printable(Keyboard::keyCodeToString(field->keyCode())),
+               static_cast<long long>(field->keyCode()),
+               static_cast<unsigned long long>(field->modifierFlags()));
     }
-    qInfo("=====================================================================");
+    qCInfo(lcPreferences, "=====================================================================");
 }

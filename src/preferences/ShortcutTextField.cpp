@@ -1,5 +1,6 @@
 #include "preferences/ShortcutTextField.h"
 
+#include "common/Log.h"
 #include "preferences/Keyboard.h"
 #include "preferences/KeyboardShortcut.h"
 
@@ -110,15 +111,14 @@ void ShortcutTextField::handleKeyEvent(const QKeyEvent& event)
     const quint64 masked = stroke.rawModifierFlags & ModifierFlag::RecordingMask;
     // The desktop's quit and close keys (Ctrl+Q, Ctrl+W) stay theirs; with
     // any further modifier they are ordinary keys.
-    if ((keyCode == Keyboard::KeyQ || keyCode == Keyboard::KeyW) &&
-        masked == ModifierFlag::Control)
+    if ((keyCode == Keyboard::KeyQ || keyCode == Keyboard::KeyW) && masked == ModifierFlag::Control)
         return;
     m_keyCode = keyCode;
     m_modifierFlags = masked;
-    qInfo("shortcut:%s,keyCode:%lld,掩码后的修饰值: %llu,原始修饰值: %llu",
-          qUtf8Printable(Keyboard::keyCodeToString(keyCode)), static_cast<long long>(keyCode),
-          static_cast<unsigned long long>(masked),
-          static_cast<unsigned long long>(stroke.rawModifierFlags));
+    qCInfo(lcPreferences, "shortcut:%s,keyCode:%lld,掩码后的修饰值: %llu,原始修饰值: %llu",
+           qUtf8Printable(Keyboard::keyCodeToString(keyCode)), static_cast<long long>(keyCode),
+           static_cast<unsigned long long>(masked),
+           static_cast<unsigned long long>(stroke.rawModifierFlags));
     updateShortcutDisplay();
 }
 

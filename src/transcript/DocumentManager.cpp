@@ -1,6 +1,7 @@
 #include "transcript/DocumentManager.h"
 
 #include "common/FileStat.h"
+#include "common/Log.h"
 
 #include <QDebug>
 #include <QDir>
@@ -81,7 +82,8 @@ QString DocumentManager::documentsDirectory() const
                              ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                              : m_baseDirectory;
     if (base.isEmpty()) {
-        qInfo("Error getting documents directory URL: %s", "no documents folder is configured");
+        qCInfo(lcTranscript, "Error getting documents directory URL: %s",
+               "no documents folder is configured");
         return {};
     }
     const QString path = QDir::cleanPath(QDir(base).absolutePath());
@@ -90,7 +92,8 @@ QString DocumentManager::documentsDirectory() const
     if (ec || !QFileInfo(path).isDir()) {
         const QString reason =
             ec ? fromErrorCode(path, ec) : QStringLiteral("%1: Not a directory").arg(path);
-        qInfo().noquote() << QStringLiteral("Error getting documents directory URL: ") + reason;
+        qCInfo(lcTranscript).noquote()
+            << QStringLiteral("Error getting documents directory URL: ") + reason;
         return {};
     }
     return path;
@@ -225,9 +228,10 @@ bool DocumentManager::createDirectory(const QString& name, DocumentError* error)
             setFileSystemError(out, ec.value(), fromErrorCode(*path, ec));
     }
     if (path && !ec)
-        qInfo().noquote() << QStringLiteral("Successfully created directory:") + name;
+        qCInfo(lcTranscript).noquote() << QStringLiteral("Successfully created directory:") + name;
     else
-        qInfo().noquote() << QStringLiteral("Failed to create directory: ") + out->toString();
+        qCInfo(lcTranscript).noquote()
+            << QStringLiteral("Failed to create directory: ") + out->toString();
     // Deliberately false for a folder made now: callers read "already existed".
     return false;
 }

@@ -1,5 +1,7 @@
 #include "transcript/LrcReader.h"
 
+#include "common/Log.h"
+
 #include <QDebug>
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -130,9 +132,10 @@ StampedLines readStampedLines(const QString& text)
         out.stamps.append(t);
         out.texts.append(trimSpacesAndTabs(match->rest));
         lastStamp = t;
-        qInfo().noquote() << QString::asprintf("loadTranscriptionsFromFile:%lld,timestamp=%f,line=",
-                                               static_cast<long long>(out.texts.size()), t) +
-                                 line;
+        qCInfo(lcTranscript).noquote()
+            << QString::asprintf("loadTranscriptionsFromFile:%lld,timestamp=%f,line=",
+                                 static_cast<long long>(out.texts.size()), t) +
+                   line;
     }
     return out;
 }
@@ -144,7 +147,8 @@ SegmentList buildSegments(const QList<double>& stamps, double totalDuration)
     for (qsizetype i = 0; i < n; ++i) {
         const double start = stamps[i];
         if (start > totalDuration) {
-            qInfo("loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间");
+            qCInfo(lcTranscript,
+                   "loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间");
             break;
         }
         double duration = 0.0;
@@ -158,7 +162,8 @@ SegmentList buildSegments(const QList<double>& stamps, double totalDuration)
         // stays, and the caller compares the counts.
         if (!(duration > 0.0))
             continue;
-        qInfo("%lld,start=%f,duration=%f", static_cast<long long>(i + 1), start, duration);
+        qCInfo(lcTranscript, "%lld,start=%f,duration=%f", static_cast<long long>(i + 1), start,
+               duration);
         segments.append(Segment{start, duration});
     }
     return segments;

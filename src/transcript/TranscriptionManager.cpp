@@ -1,6 +1,7 @@
 #include "transcript/TranscriptionManager.h"
 
 #include "audio/AudioManager.h"
+#include "common/Log.h"
 #include "transcript/LrcReader.h"
 
 #include <QDebug>
@@ -55,7 +56,7 @@ bool TranscriptionManager::saveTranscriptionsToFile(const QString& path)
 {
     const auto fail = [this](const QString& error) {
         m_lastError = error;
-        qInfo().noquote() << QStringLiteral("Error writing to file: ") + error;
+        qCInfo(lcTranscript).noquote() << QStringLiteral("Error writing to file: ") + error;
         return false;
     };
 
@@ -84,7 +85,7 @@ bool TranscriptionManager::saveTranscriptionsToFile(const QString& path)
         return fail(QStringLiteral("%1: %2").arg(path, file.errorString()));
 
     m_lastError.clear();
-    qInfo("Successfully wrote to file.");
+    qCInfo(lcTranscript, "Successfully wrote to file.");
     return true;
 }
 
@@ -93,7 +94,7 @@ bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
     if (!QFileInfo::exists(path)) {
         // The path itself is not printed; this line has always read (null).
         m_lastError = QStringLiteral("%1: no such file").arg(path);
-        qInfo("Error file path: (null)");
+        qCInfo(lcTranscript, "Error file path: (null)");
         return false;
     }
 
@@ -110,7 +111,7 @@ bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
                           .arg(QFileInfo(path).fileName());
     }
     if (!text) {
-        qInfo().noquote() << QStringLiteral("Error reading file: ") + m_lastError;
+        qCInfo(lcTranscript).noquote() << QStringLiteral("Error reading file: ") + m_lastError;
         return false;
     }
 

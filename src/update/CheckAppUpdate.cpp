@@ -1,5 +1,6 @@
 #include "update/CheckAppUpdate.h"
 
+#include "common/Log.h"
 #include "localization/CountryCode.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
@@ -90,8 +91,8 @@ QUrl CheckAppUpdate::lookupBaseUrl() const
         const QUrl url(configured, QUrl::StrictMode);
         if (isWebUrl(url))
             return url;
-        qInfo("checkupdate:ignoring lookup address that is not http(s): %s",
-              qPrintable(configured));
+        qCInfo(lcUpdate, "checkupdate:ignoring lookup address that is not http(s): %s",
+               qPrintable(configured));
     }
     return QUrl(defaultLookupBaseUrl());
 }
@@ -158,7 +159,7 @@ void CheckAppUpdate::handleReply(QNetworkReply* reply, bool reportLatest, bool t
             description = QStringLiteral("The request timed out.");
         else
             description = reply->errorString();
-        qInfo("Error checking for updates: %s", qPrintable(description));
+        qCInfo(lcUpdate, "Error checking for updates: %s", qPrintable(description));
         m_alerts.showErrMsg(LocalizedString(Texts::ErrorCheckingForUpdates),
                             LocalizedString(description));
         return;
@@ -177,7 +178,7 @@ void CheckAppUpdate::handleAnswer(const QByteArray& body, bool reportLatest)
     else if (!document.isObject())
         description = QStringLiteral("The answer is not a JSON object.");
     if (!description.isEmpty()) {
-        qInfo("Error parsing updates JSON: %s", qPrintable(description));
+        qCInfo(lcUpdate, "Error parsing updates JSON: %s", qPrintable(description));
         m_alerts.showErrMsg(LocalizedString(Texts::ErrorParsingUpdatesJson),
                             LocalizedString(description));
         return;
@@ -191,8 +192,8 @@ void CheckAppUpdate::handleAnswer(const QByteArray& body, bool reportLatest)
     const QJsonObject result = results.first().toObject();
     const QString storeVersion =
         paddedStoreVersion(jsonText(result.value(QLatin1String("version"))));
-    qInfo("checkupdate:storeVer=%s,curVer=%s", qPrintable(storeVersion),
-          qPrintable(m_currentVersion));
+    qCInfo(lcUpdate, "checkupdate:storeVer=%s,curVer=%s", qPrintable(storeVersion),
+           qPrintable(m_currentVersion));
     if (!isVersionGreaterThan(storeVersion, m_currentVersion)) {
         reportAlreadyLatest(reportLatest);
         return;
@@ -200,7 +201,8 @@ void CheckAppUpdate::handleAnswer(const QByteArray& body, bool reportLatest)
     const QString trackText = jsonText(result.value(QLatin1String("trackViewUrl")));
     QUrl trackUrl(trackText, QUrl::StrictMode);
     if (!isWebUrl(trackUrl)) {
-        qInfo("checkupdate:ignoring trackViewUrl that is not http(s): %s", qPrintable(trackText));
+        qCInfo(lcUpdate, "checkupdate:ignoring trackViewUrl that is not http(s): %s",
+               qPrintable(trackText));
         trackUrl = QUrl();
     }
     m_alerts.showUpdateAlert(
@@ -211,7 +213,7 @@ void CheckAppUpdate::reportAlreadyLatest(bool reportLatest)
 {
     if (!reportLatest)
         return;
-    qInfo("The app is already the latest version;");
+    qCInfo(lcUpdate, "The app is already the latest version;");
     m_alerts.showMsg(QString(), LocalizedString(Texts::AlreadyLatestVersion));
 }
 

@@ -9,6 +9,7 @@
 #  - Every command from the keyboard: F10 opens the menu bar, menus have
 #    mnemonics, Clear is a menu item, Escape closes the preferences.
 #  - The close prompt's "Save" can create a new transcript file.
+#  - The log: plain lines, no idle sound device taken for an error.
 #
 # Usage: learner_desk_test.sh KELMORA KELMORA_CLI FIXTURE SCREENSHOT_DIR
 set -euo pipefail
@@ -146,3 +147,10 @@ grep -q "first more!" "$store" || fail "the lesson's store file does not hold ro
 refused="$("$cli" identity "$bad" 2>/dev/null | tail -n1 || true)"
 [ -z "$refused" ] || [ ! -e "$refused" ] || fail "a transcript was saved under the refused file"
 echo "the store file holds the rows under the lesson only"
+
+# Kelmora's own log lines read as they are worded, and a sound device that
+# ran dry between segments is no error.
+grep -qx "File identifier: [0-9a-f]\{64\}" "$work/kelmora.log" || fail "no plain 'File identifier:' line in the log"
+! grep -q "^kelmora\." "$work/kelmora.log" || fail "log lines carry their category"
+! grep -q "ran out of data" "$work/kelmora.log" || fail "an idle sound device was logged as an error"
+echo "the log reads as worded: $(grep -c . "$work/kelmora.log") lines"

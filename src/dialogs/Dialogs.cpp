@@ -1,5 +1,6 @@
-#include "app/Dialogs.h"
+#include "dialogs/Dialogs.h"
 
+#include "common/Log.h"
 #include "common/ThreadHandOff.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
@@ -64,7 +65,8 @@ void Dialogs::showMsg(const QString& title, const QString& message)
         QWidget* window = mainWindow();
         QMessageBox* box = makeWarning(title, message, window);
         box->addButton(LocalizedString(Texts::OK), QMessageBox::AcceptRole);
-        QObject::connect(box, &QMessageBox::finished, box, [] { qInfo("User clicked OK"); });
+        QObject::connect(box, &QMessageBox::finished, box,
+                         [] { qCInfo(lcApp, "User clicked OK"); });
         if (window) {
             box->setWindowModality(Qt::WindowModal);
             box->open();

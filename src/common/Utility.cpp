@@ -1,4 +1,6 @@
-#include "app/Utility.h"
+#include "common/Utility.h"
+
+#include "common/Log.h"
 
 #include <QColor>
 #include <QDateTime>
@@ -8,7 +10,7 @@
 std::optional<QString> Utility::hexStringFromColor(const QColor& color)
 {
     if (!color.isValid()) {
-        qInfo("Color is not in an RGB color space.");
+        qCInfo(lcApp, "Color is not in an RGB color space.");
         return std::nullopt;
     }
     // Truncating c × 255 from the 16-bit components in integers: done in

@@ -1,5 +1,6 @@
-#include "app/Utility.h"
+#include "common/Utility.h"
 
+#include "common/Log.h"
 #include "support/TestSupport.h"
 
 #include <QColor>
@@ -16,11 +17,24 @@ TEST(Utility, HexStringFromColorTruncatesEachComponent)
                   QString::asprintf("#%02X%02X%02X", v, v, v));
 }
 
+// The line goes through Kelmora's own category, which the logging rules
+// silence and raise like any of Qt's.
 TEST(Utility, ColorWithoutAnRgbFormGivesNothingAndOneLogLine)
 {
     TestSupport::LogCapture log;
     EXPECT_FALSE(Utility::hexStringFromColor(QColor()));
     EXPECT_EQ(log.lines(), QStringList{"Color is not in an RGB color space."});
+    EXPECT_STREQ(lcApp().categoryName(), "kelmora.app");
+    EXPECT_FALSE(lcAudio().isDebugEnabled()) << "debugging lines show by default";
+
+    QLoggingCategory::setFilterRules(QStringLiteral("kelmora.*=false"));
+    log.clear();
+    EXPECT_FALSE(Utility::hexStringFromColor(QColor()));
+    EXPECT_TRUE(log.lines().isEmpty()) << "kelmora.*=false did not silence it";
+    QLoggingCategory::setFilterRules(QStringLiteral("kelmora.audio.debug=true"));
+    EXPECT_TRUE(lcAudio().isDebugEnabled());
+    EXPECT_TRUE(lcApp().isInfoEnabled());
+    QLoggingCategory::setFilterRules(QString());
 }
 
 TEST(Utility, TimesWithinAMicrosecondAreEqual)

@@ -6,7 +6,7 @@
 class QColor;
 
 // Small stateless helpers shared by the session and the preferences. The
-// helpers that show a window (alerts, file panels) live with the window.
+// helpers that show a window (alerts, file panels) are in dialogs/.
 class Utility
 {
 public:

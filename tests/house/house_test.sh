@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# The house rules a compiler does not check. The application shell sits on
+# top: no subsystem below it reaches into it, and the shared helpers at the
+# bottom reach only each other.
+# Usage: house_test.sh PROJECT_DIR
+set -euo pipefail
+root="$1"
+src="$root/src"
+status=0
+report() { echo "FAIL: $1"; echo "$2"; status=1; }
+
+for folder in audio common desktop dialogs localization preferences transcript update views; do
+  found="$(grep -rn '#include "app/' "$src/$folder" || true)"
+  [ -z "$found" ] || report "$folder includes the application shell" "$found"
+done
+found="$(grep -rn '#include "' "$src/common" | grep -v '#include "common/' || true)"
+[ -z "$found" ] || report "common includes upwards" "$found"
+found="$(grep -rn '#include "' "$src/dialogs" | grep -v '#include "\(common\|dialogs\|localization\)/' || true)"
+[ -z "$found" ] || report "dialogs includes upwards" "$found"
+
+[ "$status" = 0 ] && echo "the house is in order"
+exit "$status"
