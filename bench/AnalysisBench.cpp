@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How much does analysing a file cost beyond decoding it? Times
 // `kelmora-cli analyze` on 60-minute speech files against `ffmpeg` decoding
 // the same file to nothing, with the parts decoded side by side (the default:

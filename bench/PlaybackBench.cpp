@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Playback benchmark on a 60-minute VBR MP3 (made on first run):
 //  1. latency from playSegmentAtIndex() of a segment near the end of the file
 //     to the first frame of that segment entering the ring;

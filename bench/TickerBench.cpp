@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The position tickers that every play() leaves behind: after 1,000 segment
 // plays, with the waveform strip observing the positions as in the window,
 // how much of a core do they cost while nothing plays, against the same

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing into the dictation table, offscreen at 1280x600:
 //  1. a key typed into a row of a 700-row table (and, for comparison, a
 //     20-row one): from sending the key event to the end of the repaint of

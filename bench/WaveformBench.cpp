@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting the waveform strip of a 60-minute recording, analysed by the real
 // engine (a FLAC made on first run, or the file given), with 1920 x 200
 // points visible in the middle of the file:

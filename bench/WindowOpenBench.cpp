@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening an hour-long lesson in the window: does the window keep answering
 // while the file is analysed, how soon is the first segment played, and how
 // much memory does the open window hold?

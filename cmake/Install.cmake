@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # What `cmake --install` puts where on a Linux desktop: the programs, the help
 # page, the desktop entry with its icons and MIME type, the AppStream metadata,
 # the manual pages and the package's documents. The translations are compiled

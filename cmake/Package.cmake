@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # `cpack -G DEB` in a release build tree makes the Debian package `kelmora`
 # (scripts/package does that and checks it with lintian).
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Feeds arbitrary bytes to the transcript reader, as if they were a .lrc file
 // the user imported, and checks what it builds:
 // - the regular expression finds the same stamp as a plain hand-written

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // libFuzzer target for the archive reader: any bytes stored under a colour,
 // font or shortcut key must be refused cleanly or read as a value that
 // survives its own round trip.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Re-creates the demo lesson (lesson.mp3) with espeak-ng and ffmpeg. The result
 # is committed, so this only runs when the lesson text changes.
 set -euo pipefail

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Moving between segments, play/pause, and following the playing position.
 
 #include "app/IconManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening a file: the engine's analysis on a worker, then the window shows
 // what the engine holds and plays the first segment.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of the table for the file that was opened, and saving what was
 // typed: in the background as the learner moves on, by export, on close.
 

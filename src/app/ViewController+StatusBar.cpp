@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The status bar, the window title and the error alert.
 
 #include "app/StatusText.h"

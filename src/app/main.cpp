@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora: the dictation-practice window. Paths on the command line are opened
 // as the desktop's request to open a file, which is how a file manager's
 // "Open With" reaches it.

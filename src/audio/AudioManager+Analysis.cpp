@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Decoding and loudness analysis. The file is decoded once: the same pass
 // measures the loudness of channel 0 and collects the waveform peaks. A long
 // file whose codec decodes exactly after a seek is read in parts side by

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Segment playback: the player, the one timer slot (segment end, resume or
 // position ticker), the repeat counter and the playback notifications.
 

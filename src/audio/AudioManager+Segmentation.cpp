@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Threshold, silence detection, cutting, and the engine's segment list.
 
 #include "audio/AudioManager.h"

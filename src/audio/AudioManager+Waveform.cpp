@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hands the waveform peaks of the loaded file to whoever draws them. The
 // peaks themselves are collected during the analysis pass.
 

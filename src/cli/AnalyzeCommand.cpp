@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli analyze / split: load a file into the engine exactly as the
 // window does and print what it found.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli play: load a file into the engine as the window does and play
 // it through the default sound device, the whole file or one segment a number
 // of times, printing the position as it goes. Ctrl+C stops cleanly.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli parse-lrc / identity: the transcript store without the window.
 
 #include "app/FileIdentity.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli: Kelmora's engine without the window, for scripts and for a
 // quick look at what the engine makes of a file.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Translation of Qt key events into the stored key-code numbering (virtual key
 // codes of the ANSI layout) and modifier bits.
 

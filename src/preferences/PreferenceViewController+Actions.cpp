@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the preferences window's controls do: each writes its setting at once
 // and tells the rest of the application; reset, the font dialog and the
 // restart prompt.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table's look: colours, font, line numbers and header, read from the
 // defaults store at creation and changed by the preferences' notifications.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting the waveform strip. Shapes are drawn with y growing upward from the
 // bottom edge; text is drawn in the widget's own (downward) coordinates at the
 // positions the upward geometry gives. Only the visible part of the view is

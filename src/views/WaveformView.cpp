@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The waveform strip: state, geometry, scrolling and input. Painting lives in
 // WaveformView+Drawing.cpp.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saves two large transcripts in turn, for ever, the way the auto-save job
 // does; the crash test kills it at random moments.
 // Usage: autosave_kill_helper AUDIO FOLDER

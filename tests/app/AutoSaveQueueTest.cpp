@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The auto-save job on its own: the lines it writes, the throttle, and what a
 // kill at any moment leaves behind.
 

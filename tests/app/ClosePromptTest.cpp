@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The close prompt offscreen: no lesson closes at once; Cancel, Don't Save,
 // and Save with its panel for a new or existing transcript.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window offscreen: opening a lesson through the direct road, what a
 // failed opening leaves behind, the three areas, the menus and their keys, and the screenshot a person looks at (the other languages'
 // are the language tests').

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Open Recent list in the defaults store.
 
 #include "app/RecentDocuments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the store survives: a folder that turns read-only, a full disk, a
 // store file that is not text. Each leaves the last good transcript as it
 // was, byte for byte, and the session running.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The six shortcuts while the learner types in a dictation row, and repeat
 // mode counting its plays on a virtual clock.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The checked road's refusals, failed analyses, the music-folder road and
 // quick successive opens, each leaving the learner on the lesson shown until
 // another one has opened, rows, name and all.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The learner's loop through the real window offscreen: open a lesson, type,
 // move on, come back to it; the auto-save's throttle on its own clock.
 

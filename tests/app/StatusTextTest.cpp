@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The status bar's text, and the time format offered beside it.
 
 #include "app/StatusText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Help > Check for Updates… against a real HTTP service on 127.0.0.1: each
 // answer ends in its sheet on the main window, and only a web page is opened.
 

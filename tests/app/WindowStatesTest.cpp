@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the main window shows when it has no lesson, while a lesson is being
 // analysed, and what it does with a recording dropped on it. Judged offscreen
 // by the pixels of the window's picture.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Loading real files made by the test set-up through the engine's one entry
 // point, as the window does.
 

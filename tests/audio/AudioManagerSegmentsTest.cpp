@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine's segment list and its settings.
 
 #include "audio/AudioManager.h"

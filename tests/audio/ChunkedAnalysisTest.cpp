@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The analysis read in parts side by side against the same file read in one
 // pass: everything the engine derives must come out identical.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Segmentation on hand-made loudness lists, where the expected silences and
 // cuts can be worked out frame by frame (one frame = 20 ms).
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli as a script or a person runs it: a separate process, real
 // files, its own settings folder.
 

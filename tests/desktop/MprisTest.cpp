@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The media keys over a private session bus (the binary runs under
 // dbus-run-session): gdbus, as a desktop's media-key daemon would, calls the
 // player, and reads what it says about playback.

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reads and drives Kelmora's window through the accessibility bus (AT-SPI),
 the way a screen reader would. Usage:
   atspi_probe.py wait-window TITLE      until a frame with that title shows

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Kelmora as a citizen of the desktop: the desktop entry and the AppStream
 # metadata pass their validators; a file manager that sniffs each of the nine
 # kinds of audio file (with Kelmora's MIME type installed) finds a type the

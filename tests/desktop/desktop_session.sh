@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by the real-window tests: a private home, a real X server (Xvfb) and
 # a private PulseAudio server with one null sink whose monitor is recorded.
 # Expects the caller to be inside its own D-Bus session already. Defines

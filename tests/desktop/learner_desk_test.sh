@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A learner at a real desktop: the real kelmora in Xvfb under a window manager
 # (openbox), a PulseAudio null sink and a private D-Bus session, driven only by
 # real key presses and clicks, read through the accessibility bus.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the real kelmora in a real X server (Xvfb) with a private D-Bus session
 # and uses its preferences the way a learner does, with real key presses and
 # clicks: Ctrl+, opens the window, the Up key raises the play speed, which is

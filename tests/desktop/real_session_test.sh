@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The learner's loop in the real kelmora (Xvfb, a PulseAudio null sink, a
 # private D-Bus session), with real key presses while the focus stays in the
 # dictation row: type a sentence, Down to the next segment, type again, Down

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the real kelmora in a real X server (Xvfb) with a private PulseAudio
 # null sink and a private D-Bus session, and uses it the way a learner does:
 # it opens a lesson, segment 0 is heard, typing lands in row 0, and the close

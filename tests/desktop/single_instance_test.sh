@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Two real kelmora processes on a private session bus: the second, started on
 # a file as a file manager would (a relative path, from the file's folder),
 # hands the file to the first and exits 0; the first opens and plays it, and

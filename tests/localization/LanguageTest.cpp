@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
 #include "localization/CountryCode.h"

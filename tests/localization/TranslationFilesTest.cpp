@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every interface language has a finished translation of every user-visible
 // text, keeps its placeholders, and is built into the binary.
 

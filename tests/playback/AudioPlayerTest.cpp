@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The player against a straight decode of the same file: what the device
 // gets after a seek, at rate 1.0, when stretched, and at the end of a file.
 

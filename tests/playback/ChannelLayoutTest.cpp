@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever the channels of a file, and whatever its frames do mid-way: the
 // player mixes every source channel into the output, a stream that changes
 // its channel count plays to its end, and the analysis keeps 20 ms frames.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Damaged files of every format: each variant of a small clip is analysed and
 // briefly played (with a seek) on a manually clocked null output. Nothing may
 // crash, hang or touch memory it does not own (the sanitizer build checks the

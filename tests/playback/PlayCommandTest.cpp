@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli play as a script would run it, on a machine without a sound
 // device (the server address points nowhere), so it plays silently in real time.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine's segment playback on a virtual clock: timers, the repeat
 // counter, the notifications and their order. A real player plays the file
 // into a manually clocked null output, so positions stay where they were set.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Real sound from files whose channels are unusual: the player, on Qt's
 // sound device, plays into the private null sink and the sink's monitor is
 // recorded (as mono: the mean of the two sides).

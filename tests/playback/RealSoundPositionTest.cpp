@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The player's current time against what the sink plays: while the player
 // plays into the private null sink, the sink's monitor is recorded in this
 // process, and at moments along the way the server is asked which sample of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Real sound: the engine plays a segment through Qt's sound device into a
 // private PulseAudio null sink, parec records the sink's monitor, and the
 // recording is searched for the segment's audio.

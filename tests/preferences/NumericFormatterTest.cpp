@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The repeat-count field's rules: digits only, never a sixth character, and
 // an empty field reads as 0.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/ObjectStorage.h"
 
 #include "preferences/ArchivedObjects.h"

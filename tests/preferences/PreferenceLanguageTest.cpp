@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Choosing a language: the restart prompt, "Later" and "Restart Now" through
 // the application delegate, and how both windows look in four languages.
 

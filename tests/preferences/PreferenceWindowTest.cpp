@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The preferences window offscreen: each control writes its setting at once
 // and tells the application; the repeat field's typed input; reset and its
 // order; a recording field when the window closes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Recording a shortcut: what a key press records, what it never records, and
 // that while a field records no key reaches anything else.
 

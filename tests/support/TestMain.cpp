@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every test binary gets one application object, so that queued hand-backs
 // and timers behave as they do in the application.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Window test binaries get one QApplication, on the offscreen platform unless
 // the environment names another, so that widgets render into images that the
 // tests probe.

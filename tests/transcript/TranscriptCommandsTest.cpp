@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // kelmora-cli parse-lrc and identity, run as a user runs them.
 
 #include "app/FileIdentity.h"

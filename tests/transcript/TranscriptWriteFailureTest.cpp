@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A failed save must leave the previous transcript whole and say so.
 
 #include "ChildProcess.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the dictation table draws: the packed header, the rows in the stored
 // look, the look's changes through the notifications, no selection highlight,
 // the row being typed in on its light field lined up with the painted rows,

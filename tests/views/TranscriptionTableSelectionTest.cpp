@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which row is current: loading rows, selections from the waveform and from
 // clicks, and what the session controller hears of them.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing into a row: where the text goes, what the row keeps, and the
 // transcript line of a row from a real engine.
 

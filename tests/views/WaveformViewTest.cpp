@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The waveform strip in a horizontal scroll area, fed from a real engine that
 // analysed a generated recording. What it draws is judged by the pixels of
 // the rendered view: rows are counted from the top of the image, so the
