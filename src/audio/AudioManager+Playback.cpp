@@ -119,17 +119,21 @@ void AudioManager::playSegmentAtIndex(qint64 index)
     // from the call is up. The timer then waits as long as the device still
     // needs, or the rest of the interval when it has taken nothing yet.
     m_segmentEndHeld = std::min(kSegmentEndLead, length);
-    armSegmentEnd(length - m_segmentEndHeld);
+    armEnd(PlayTimerRole::SegmentEnd, length - m_segmentEndHeld);
 }
 
-void AudioManager::armSegmentEnd(double seconds)
+void AudioManager::armEnd(PlayTimerRole role, double seconds)
 {
     QPointer<AudioManager> self(this);
-    m_playTimer = m_clock->scheduledTimer(seconds, false, [self] {
-        if (self)
+    m_playTimer = m_clock->scheduledTimer(seconds, false, [self, role] {
+        if (!self)
+            return;
+        if (role == PlayTimerRole::SegmentEnd)
             self->segmentEndTimerFired();
+        else
+            self->resumeTimerFired();
     });
-    m_playTimerRole = PlayTimerRole::SegmentEnd;
+    m_playTimerRole = role;
 }
 
 void AudioManager::segmentEndTimerFired()
@@ -148,7 +152,7 @@ void AudioManager::segmentEndTimerFired()
         wait = m_audioPlayer->secondsUntilHanded(m_segmentEndSource);
     if (wait > kCloseEnough && m_segmentEndRearms < kMaxRearms) {
         ++m_segmentEndRearms;
-        armSegmentEnd(wait);
+        armEnd(PlayTimerRole::SegmentEnd, wait);
         return;
     }
     cancelPlayTimer();
@@ -228,19 +232,9 @@ void AudioManager::resumePlayback()
                             : segment.start + segment.duration - m_savedPlaybackPosition;
         m_resumeEndSource = now + length;
         length /= static_cast<double>(m_currentRate);
-        armResumeEnd(length);
+        armEnd(PlayTimerRole::ResumeEnd, length);
     }
     postStatus(Notifications::AudioPlaybackDidResume, 3);
-}
-
-void AudioManager::armResumeEnd(double seconds)
-{
-    QPointer<AudioManager> self(this);
-    m_playTimer = m_clock->scheduledTimer(seconds, false, [self] {
-        if (self)
-            self->resumeTimerFired();
-    });
-    m_playTimerRole = PlayTimerRole::ResumeEnd;
 }
 
 void AudioManager::resumeTimerFired()
@@ -285,9 +279,9 @@ void AudioManager::retimePlayTimer()
     if (segmentEnd) {
         m_segmentEndRearms = 0;
         m_segmentEndHeld = std::min(kSegmentEndLead, left);
-        armSegmentEnd(left - m_segmentEndHeld);
+        armEnd(PlayTimerRole::SegmentEnd, left - m_segmentEndHeld);
     } else {
-        armResumeEnd(left);
+        armEnd(PlayTimerRole::ResumeEnd, left);
     }
 }
 

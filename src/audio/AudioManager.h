@@ -181,13 +181,22 @@ public:
     void audioPlayerDecodeErrorDidOccur(const QString& error);
 
 private:
+    // What the one timer slot holds.
+    enum class PlayTimerRole
+    {
+        None,
+        Ticker,
+        SegmentEnd,
+        ResumeEnd
+    };
+
     bool fail(const QString& reason);
     bool createAudioPlayer(const QString& path);
     void cancelPlayTimer();
     void segmentEndTimerFired();
-    void armSegmentEnd(double seconds);
     void resumeTimerFired();
-    void armResumeEnd(double seconds);
+    // Arms the slot with the end of a segment or of a resumed stretch.
+    void armEnd(PlayTimerRole role, double seconds);
     void retimePlayTimer();
     void deliverPlaybackCompletion();
     void postStatus(const char* name, int status);
@@ -260,11 +269,10 @@ private:
     // engine's thread with the player, so a load analysing the next file on a
     // worker never changes it under the ticks of the one still playing.
     double m_playerDuration = 0.0;
-    std::shared_ptr<Timer> m_playTimer;             // the one timer slot
+    std::shared_ptr<Timer> m_playTimer; // the one timer slot
     // What the slot holds now; an end that a rate change must move.
-    enum class PlayTimerRole { None, Ticker, SegmentEnd, ResumeEnd };
     PlayTimerRole m_playTimerRole = PlayTimerRole::None;
-    double m_resumeEndSource = 0.0; // source seconds where a resumed stretch ends
+    double m_resumeEndSource = 0.0;                 // source seconds where a resumed stretch ends
     std::unique_ptr<PositionTickers> m_tickerGroup; // one clock timer for all of them
     QList<std::shared_ptr<Timer>> m_tickers;        // every position ticker started by play()
     double m_segmentEndSource = 0.0;                // source seconds where the playing segment ends
