@@ -43,10 +43,12 @@ bool AudioFileDrop::isInWindow(QObject* object) const
 
 bool AudioFileDrop::eventFilter(QObject* watched, QEvent* event)
 {
+    // The receiver first: an event a worker posts to a non-widget is handed
+    // over under Qt's lock, and is never opened here.
+    if (!watched->isWidgetType() || !isInWindow(watched))
+        return false;
     const QEvent::Type type = event->type();
     if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
-        return false;
-    if (!isInWindow(watched))
         return false;
     auto* drop = static_cast<QDropEvent*>(event);
     // Moves keep what the enter found; the enter and the drop look themselves.

@@ -45,8 +45,8 @@ public:
 
 Dispatcher* dispatcher()
 {
-    // Made on first use from whatever thread, then handed to the main thread;
-    // it lives as long as the process.
+    // Made as the application starts (below), on its thread; made on first
+    // use only where there is no application. It lives as long as the process.
     static Dispatcher* const instance = [] {
         auto* made = new Dispatcher;
         if (QCoreApplication* app = QCoreApplication::instance())
@@ -59,6 +59,16 @@ Dispatcher* dispatcher()
 } // namespace
 
 } // namespace ThreadHandOff
+
+namespace {
+// On the main thread before any worker can post: a dispatcher a worker made
+// would reach the main thread's event filters through Qt's queue alone.
+void makeHandOffDispatcher()
+{
+    ThreadHandOff::dispatcher();
+}
+} // namespace
+Q_COREAPP_STARTUP_FUNCTION(makeHandOffDispatcher)
 
 void postHandedOver(QObject* context, std::function<void()> function)
 {
