@@ -207,10 +207,7 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
 {
     const auto channels = static_cast<size_t>(m_format.channels);
     qsizetype copied = 0;
-    const uint32_t wantedNow = m_wantedSeek.load(std::memory_order_acquire);
-    // A new seek's sound starts only once a lead of it is in the ring.
-    const bool waiting = m_handedSeek != wantedNow && m_producer->primedSeek() != wantedNow;
-    if (m_audible.load(std::memory_order_acquire) && !waiting) {
+    if (m_audible.load(std::memory_order_acquire)) {
         FrameTag last;
         copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
                              m_wantedSeek.load(std::memory_order_acquire), &last);

@@ -40,7 +40,6 @@ PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
       m_runIn(AudioDecoder::runInSeconds(decoder.info().formatID)),
       m_fillTarget(
           std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.25 * m_sampleRate))),
-      m_lead(std::min<qsizetype>(m_fillTarget, static_cast<qsizetype>(0.1 * m_sampleRate))),
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
                                                   static_cast<int>(kBlock))),
       m_converter(std::make_unique<FrameConverter>(m_channels, AV_SAMPLE_FMT_FLT,
@@ -165,7 +164,6 @@ void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end)
     m_finished = false;
     m_endReported = false;
     m_firstWritten = false;
-    m_writtenSinceSeek = 0;
     m_errorReported = false;
     m_skippedSeen = m_decoder.skippedPackets();
     const double from = m_timestampsRunBack ? 0.0 : std::max(m_target - m_runIn, 0.0);
@@ -368,7 +366,6 @@ void PlaybackProducer::finish()
 {
     m_finished = true;
     m_endIndex = m_ring.writeIndex();
-    m_primedSeek.store(m_seek, std::memory_order_release);
 }
 
 void PlaybackProducer::writeToRing(const float* frames, qsizetype n, double first, double step)
@@ -376,9 +373,6 @@ void PlaybackProducer::writeToRing(const float* frames, qsizetype n, double firs
     if (n <= 0)
         return;
     m_ring.write(frames, n, m_seek, first, step);
-    m_writtenSinceSeek += n;
-    if (m_writtenSinceSeek >= m_lead)
-        m_primedSeek.store(m_seek, std::memory_order_release);
     if (!m_firstWritten) {
         m_firstWritten = true;
         m_timedNs.store(steadyNs(), std::memory_order_relaxed);

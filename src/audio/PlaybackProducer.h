@@ -55,12 +55,6 @@ public:
     };
     SeekTiming lastSeekTiming() const;
 
-    // The newest seek whose sound may be handed out: a lead of it is in the
-    // ring (or all of it, for a span shorter than the lead). Handing the
-    // first frames at once would leave the device one chunk ahead of a
-    // producer that a busy machine can hold back right then.
-    uint32_t primedSeek() const { return m_primedSeek.load(std::memory_order_acquire); }
-
 private:
     void run();
     void wake();
@@ -83,13 +77,8 @@ private:
     double m_streamStart;
     double m_runIn;
     qsizetype m_fillTarget;
-    qsizetype m_lead; // output frames a seek needs in the ring to be primed
     std::unique_ptr<TimeStretcher> m_stretcher;
     std::unique_ptr<FrameConverter> m_converter; // any frame to the ring's layout
-
-    // The newest seek with its lead in the ring, for the device's side.
-    std::atomic<uint32_t> m_primedSeek{0};
-    qsizetype m_writtenSinceSeek = 0; // output frames written since the last seek
 
     // Mailbox, written by the owner's thread.
     std::atomic<uint64_t> m_seekRequest{0};
