@@ -148,7 +148,7 @@ void AudioManager::segmentEndTimerFired()
     constexpr double kCloseEnough = 0.002;
     double wait = m_segmentEndHeld;
     m_segmentEndHeld = 0.0;
-    if (m_audioPlayer && m_audioPlayer->handedFrame().seek == m_audioPlayer->seekNumber())
+    if (m_audioPlayer && m_audioPlayer->handsLatestSound())
         wait = m_audioPlayer->secondsUntilHanded(m_segmentEndSource);
     if (wait > kCloseEnough && m_segmentEndRearms < kMaxRearms) {
         ++m_segmentEndRearms;

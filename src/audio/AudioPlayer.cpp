@@ -12,9 +12,10 @@
 #include <algorithm>
 
 namespace {
-// About 0.7 s at 44.1 kHz; the decode thread fills at most 0.25 s of it, so
-// that after a seek there is always room for the new audio at once.
-constexpr qsizetype kRingFrames = 32768;
+// About 1.5 s at 44.1 kHz; the decode thread fills at most 0.5 s of it (a
+// stall of the decode thread that long goes unheard), so that after a seek or
+// a rate change there is always room for the new audio at once.
+constexpr qsizetype kRingFrames = 65536;
 } // namespace
 
 std::unique_ptr<AudioPlayer>
@@ -119,13 +120,14 @@ double AudioPlayer::currentTime() const
 {
     double through = 0.0;
     const FrameTag handed = m_handed.load(&through);
-    if (!m_playing || handed.seek != m_seekNumber || m_format.sampleRate <= 0)
+    // The frames of a rate change's predecessors still count: the sound goes
+    // on through them.
+    if (!m_playing || !handsLatestSound(handed))
         return m_floor;
     // The device hears the frames it took in order: what it has yet to hear
     // of those up to the last one handed is still ahead of the ear.
     const double ahead = std::max(through - m_output->framesHeard(), 0.0);
-    const double rate = static_cast<double>(m_appliedRate);
-    const double heard = handed.position - ahead / m_format.sampleRate * rate;
+    const double heard = handed.position - ahead * static_cast<double>(handed.step);
     return std::max(heard, m_floor);
 }
 
@@ -143,6 +145,7 @@ void AudioPlayer::setCurrentTime(double seconds, double end)
     m_spanEnd = end >= 0.0 ? std::max(end, target) : -1.0;
     m_spanFresh = m_spanEnd >= 0.0;
     ++m_seekNumber;
+    m_oldestSeek.store(m_seekNumber, std::memory_order_relaxed);
     m_wantedSeek.store(m_seekNumber, std::memory_order_release);
     m_producer->requestSeek(target, m_seekNumber, m_spanEnd);
 }
@@ -150,11 +153,23 @@ void AudioPlayer::setCurrentTime(double seconds, double end)
 double AudioPlayer::secondsUntilHanded(double sourceSeconds) const
 {
     const FrameTag handed = m_handed.load();
-    if (!m_playing || handed.seek != m_seekNumber || m_format.sampleRate <= 0)
+    if (!m_playing || !handsLatestSound(handed) || m_format.sampleRate <= 0)
         return 0.0;
+    // What is left of a rate change's predecessor is short; the new rate
+    // times the rest.
     const double rate = static_cast<double>(m_appliedRate);
     const double left = sourceSeconds - handed.position - 1.0 / m_format.sampleRate;
     return std::max(left / rate, 0.0);
+}
+
+bool AudioPlayer::handsLatestSound() const
+{
+    return handsLatestSound(m_handed.load());
+}
+
+bool AudioPlayer::handsLatestSound(const FrameTag& handed) const
+{
+    return handed.seek >= m_oldestSeek.load(std::memory_order_relaxed);
 }
 
 void AudioPlayer::setEnableRate(bool enable)
@@ -174,18 +189,26 @@ void AudioPlayer::applyRate()
     const float rate = m_enableRate ? m_rate : 1.0f;
     if (rate == m_appliedRate)
         return;
-    // Nothing made at the old rate may be handed out once the rate is set:
-    // the change gets a seek number of its own (the device stops taking the
-    // old frames at once), and the sound goes on from the frame the device
-    // took last, or from where the last move asked for if it took none.
+    // The change gets a seek number of its own. While playing, the sound goes
+    // on: the device plays out the frames it is about to take at the old rate
+    // while the decode thread makes the new ones from where they stop.
+    // Otherwise it starts from the frame the device took last, or from where
+    // the last move asked for if it took none.
     m_floor = currentTime();
     ++m_seekNumber;
-    m_wantedSeek.store(m_seekNumber, std::memory_order_release);
-    const FrameTag handed = m_handed.load();
-    if (handed.seek == m_seekNumber - 1 && m_format.sampleRate > 0)
-        m_target = handed.position + 1.0 / m_format.sampleRate;
     m_appliedRate = rate;
     m_producer->requestRate(rate);
+    if (m_playing) {
+        m_wantedSeek.store(m_seekNumber, std::memory_order_release);
+        m_producer->requestContinue(m_seekNumber, m_spanEnd);
+        return;
+    }
+    const FrameTag handed = m_handed.load();
+    const bool tookSome = handsLatestSound(handed);
+    m_oldestSeek.store(m_seekNumber, std::memory_order_relaxed);
+    m_wantedSeek.store(m_seekNumber, std::memory_order_release);
+    if (tookSome && m_format.sampleRate > 0)
+        m_target = handed.position + 1.0 / m_format.sampleRate;
     m_producer->requestSeek(m_target, m_seekNumber, m_spanEnd);
 }
 
@@ -209,14 +232,14 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
     qsizetype copied = 0;
     if (m_audible.load(std::memory_order_acquire)) {
         FrameTag last;
+        const uint32_t wanted = m_wantedSeek.load(std::memory_order_acquire);
         copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
-                             m_wantedSeek.load(std::memory_order_acquire), &last);
+                             m_oldestSeek.load(std::memory_order_relaxed), wanted, &last);
         if (copied > 0)
             m_handed.store(last, double(m_deviceFrames + copied));
         // A gap inside the sound: the ring ran dry after the first frame and
         // more of the same sound came later. The end of a span or of the file
         // also reads short, but nothing follows it.
-        const uint32_t wanted = m_wantedSeek.load(std::memory_order_relaxed);
         if (copied > 0 && m_ranDry && last.seek == m_handedSeek)
             m_shortReads.fetch_add(1, std::memory_order_relaxed);
         if (copied > 0)

@@ -54,6 +54,9 @@ public:
     // (source seconds): the device is never given audio beyond the span. A
     // later play() without a new span plays on from where it stands.
     void setCurrentTime(double seconds, double end);
+    // Whether the device has taken any of the sound since the last move (a
+    // rate change does not count as one: its sound goes on from before).
+    bool handsLatestSound() const;
     // Wall seconds until the device will have taken every frame before
     // `sourceSeconds` at the present rate; 0 when it has, or when it has not
     // yet taken anything since the last move.
@@ -88,6 +91,7 @@ private:
                 std::unique_ptr<AudioOutput> output);
     qsizetype render(float* out, qsizetype frames) noexcept override;
     void applyRate();
+    bool handsLatestSound(const FrameTag& handed) const;
     void onReachedEnd(uint32_t seek);
 
     QString m_path;
@@ -113,6 +117,9 @@ private:
     // Read by the device callback.
     std::atomic<bool> m_audible{false};
     std::atomic<uint32_t> m_wantedSeek{0};
+    // The oldest seek whose frames may still be heard: the last plain move.
+    // The rate changes after it let their predecessors' sound play on.
+    std::atomic<uint32_t> m_oldestSeek{0};
     std::atomic<int> m_shortReads{0};
     uint32_t m_handedSeek = 0; // device callback only
     bool m_ranDry = false;     // device callback only

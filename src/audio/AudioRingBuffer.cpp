@@ -21,9 +21,12 @@ qsizetype AudioRingBuffer::writableFrames() const
 
 qsizetype AudioRingBuffer::pendingFrames() const
 {
+    // After a cut, only what follows it counts: the frames before it are
+    // being played out while the new ones are made.
     const uint64_t write = m_write.load(std::memory_order_relaxed);
-    const uint64_t start = std::max(m_read.load(std::memory_order_acquire),
-                                    m_flushIndex.load(std::memory_order_relaxed));
+    const uint64_t start = std::max({m_read.load(std::memory_order_acquire),
+                                     m_flushIndex.load(std::memory_order_relaxed),
+                                     m_cutTo.load(std::memory_order_relaxed)});
     return static_cast<qsizetype>(write - std::min(start, write));
 }
 
@@ -36,14 +39,42 @@ void AudioRingBuffer::write(const float* interleaved, qsizetype n, uint32_t seek
         const uint64_t slot = index & m_mask;
         std::copy_n(interleaved + static_cast<uint64_t>(i) * channels, channels,
                     &m_samples[slot * channels]);
-        m_tags[slot] = FrameTag{seek, first + static_cast<double>(i) * step};
+        m_tags[slot] = FrameTag{seek, static_cast<float>(step), first + static_cast<double>(i) * step};
     }
     m_write.store(index, std::memory_order_release);
 }
 
-void AudioRingBuffer::flush()
+void AudioRingBuffer::flush(qsizetype prime)
 {
+    m_primeFrames.store(static_cast<uint64_t>(std::max<qsizetype>(prime, 0)),
+                        std::memory_order_relaxed);
+    m_endIndex.store(0, std::memory_order_relaxed);
     m_flushIndex.store(m_write.load(std::memory_order_relaxed), std::memory_order_release);
+}
+
+void AudioRingBuffer::markEnd()
+{
+    m_endIndex.store(m_write.load(std::memory_order_relaxed) + 1, std::memory_order_release);
+}
+
+double AudioRingBuffer::cut(qsizetype lead, double writtenEnd)
+{
+    const uint64_t write = m_write.load(std::memory_order_relaxed);
+    const uint64_t start = std::max(m_read.load(std::memory_order_acquire),
+                                    m_flushIndex.load(std::memory_order_relaxed));
+    const uint64_t from = m_cutFrom.load(std::memory_order_relaxed);
+    const uint64_t to = m_cutTo.load(std::memory_order_relaxed);
+    uint64_t at = start + static_cast<uint64_t>(std::max<qsizetype>(lead, 0));
+    // An earlier cut the consumer has not passed yet: what it would skip is
+    // not heard, so the new cut comes no later than its start (or, when the
+    // consumer is already playing beyond that start, than its end).
+    if (start < to)
+        at = std::min(at, start < from ? from : to);
+    at = std::min(at, write);
+    const double position = at < write ? m_tags[at & m_mask].position : writtenEnd;
+    m_cutFrom.store(at, std::memory_order_relaxed);
+    m_cutTo.store(write, std::memory_order_release);
+    return position;
 }
 
 void AudioRingBuffer::skipStale() noexcept
@@ -53,29 +84,53 @@ void AudioRingBuffer::skipStale() noexcept
         m_read.store(flushIndex, std::memory_order_release);
 }
 
-qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t seek,
-                                FrameTag* last) noexcept
+qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t oldest,
+                                uint32_t seek, FrameTag* last) noexcept
 {
-    // The write index first: a flush is published before the frames that
-    // follow it, so seeing those frames guarantees seeing the flush.
+    // The write index first: a flush or a cut is published before the frames
+    // that follow it, so seeing those frames guarantees seeing it.
     const uint64_t write = m_write.load(std::memory_order_acquire);
     const uint64_t flushIndex = m_flushIndex.load(std::memory_order_acquire);
+    const uint64_t to = m_cutTo.load(std::memory_order_acquire);
+    const uint64_t from = m_cutFrom.load(std::memory_order_relaxed);
     uint64_t index = std::max(m_read.load(std::memory_order_relaxed), flushIndex);
-    while (index < write && m_tags[index & m_mask].seek != seek)
-        ++index;
-    qsizetype count = 0;
-    while (count < n && index + static_cast<uint64_t>(count) < write &&
-           m_tags[(index + static_cast<uint64_t>(count)) & m_mask].seek == seek)
-        ++count;
+    if (index == flushIndex && write - flushIndex < m_primeFrames.load(std::memory_order_relaxed) &&
+        m_endIndex.load(std::memory_order_acquire) <= flushIndex)
+        return 0;
     const auto channels = static_cast<uint64_t>(m_channels);
-    for (qsizetype i = 0; i < count; ++i, ++index) {
-        const float* src = &m_samples[(index & m_mask) * channels];
-        float* dst = out + static_cast<uint64_t>(i) * channels;
-        for (uint64_t c = 0; c < channels; ++c)
-            dst[c] = src[c] * gain;
+    qsizetype count = 0;
+    while (count < n && index < write) {
+        uint64_t limit = write;
+        if (index < to) {
+            // Enough of the new frames to finish this read: the sound does not
+            // switch over only to run dry at once.
+            const bool arrived = write - to >= static_cast<uint64_t>(n - count);
+            if (arrived && index >= from) {
+                index = to;
+                continue;
+            }
+            limit = arrived ? from : to;
+        }
+        // Frames of a seek older than `oldest` are stale; one newer than
+        // `seek` was asked for after this read began and waits for the next.
+        while (index < limit && m_tags[index & m_mask].seek < oldest)
+            ++index;
+        const uint64_t begin = index;
+        while (count < n && index < limit && m_tags[index & m_mask].seek <= seek) {
+            const float* src = &m_samples[(index & m_mask) * channels];
+            float* dst = out + static_cast<uint64_t>(count) * channels;
+            for (uint64_t c = 0; c < channels; ++c)
+                dst[c] = src[c] * gain;
+            ++index;
+            ++count;
+        }
+        if (index > begin && last)
+            *last = m_tags[(index - 1) & m_mask];
+        if (index < limit)
+            break; // n copied, or a newer seek's frames
+        if (limit == write)
+            break;
     }
-    if (count > 0 && last)
-        *last = m_tags[(index - 1) & m_mask];
     m_read.store(index, std::memory_order_release);
     return count;
 }

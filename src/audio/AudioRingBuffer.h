@@ -6,13 +6,15 @@
 #include <cstdint>
 #include <memory>
 
-// Where a frame in the ring came from: the seek request it descends from and
-// its position in the source, in seconds. The output side publishes the tag
-// of what it last handed to the device, which is how the player knows what is
+// Where a frame in the ring came from: the seek request it descends from, its
+// position in the source, in seconds, and how far the source moves per frame.
+// The output side publishes the tag of what it last handed to the device,
+// which is how the player knows what is
 // being heard.
 struct FrameTag
 {
     uint32_t seek = 0;
+    float step = 0.0f; // source seconds per frame: the rate over the sample rate
     double position = 0.0;
 };
 
@@ -26,6 +28,11 @@ struct FrameTag
 // overwrites a slot the consumer may still be reading, so after a flush new
 // frames only go into space the consumer has already released; the producer
 // therefore keeps the ring well below full (see fillTarget in the player).
+//
+// A cut is the gentler flush of a rate change: the consumer goes on with the
+// frames already written up to the cut's start, and skips from there to the
+// frames written after the cut only once some have arrived. The sound goes on
+// while the producer makes the new ones.
 class AudioRingBuffer
 {
 public:
@@ -43,17 +50,28 @@ public:
     // Writes n frames; frame i gets the position first + i * step. n must not
     // exceed writableFrames().
     void write(const float* interleaved, qsizetype n, uint32_t seek, double first, double step);
-    // Marks everything written so far as stale.
-    void flush();
+    // Marks everything written so far as stale. What follows is handed out
+    // only once `prime` frames of it are written, or its end is: a sound
+    // that starts from silence does not start on a trickle that runs dry.
+    void flush(qsizetype prime = 0);
+    // Every frame of the present sound is written.
+    void markEnd();
+    // Cuts the frames to be heard about `lead` frames ahead of the consumer
+    // (fewer when fewer are written). Returns the source position the frames
+    // written after the cut should start from: that of the first frame cut,
+    // or `writtenEnd` (where the last written frame ends) when none is.
+    double cut(qsizetype lead, double writtenEnd);
     uint64_t writeIndex() const { return m_write.load(std::memory_order_relaxed); }
     uint64_t readIndex() const { return m_read.load(std::memory_order_acquire); }
 
     // ---- Consumer side ----
-    // Skips stale frames and frames of any seek but `seek` (audio queued
-    // before the newest seek must not be heard once it is asked for), then
-    // copies up to n frames of that seek, scaled by gain, into out. Returns
-    // the number copied; *last gets the tag of the last one copied.
-    qsizetype read(float* out, qsizetype n, float gain, uint32_t seek, FrameTag* last) noexcept;
+    // Skips stale frames and frames of seeks outside [oldest, seek] (audio
+    // queued before the newest plain seek must not be heard once it is asked
+    // for, while a rate change's older frames may bridge), follows a cut, and
+    // copies up to n frames, scaled by gain, into out. Returns the number
+    // copied; *last gets the tag of the last one copied.
+    qsizetype read(float* out, qsizetype n, float gain, uint32_t oldest, uint32_t seek,
+                   FrameTag* last) noexcept;
     // Applies a pending flush without reading (used while paused).
     void skipStale() noexcept;
 
@@ -65,4 +83,10 @@ private:
     alignas(64) std::atomic<uint64_t> m_write{0};
     alignas(64) std::atomic<uint64_t> m_read{0};
     alignas(64) std::atomic<uint64_t> m_flushIndex{0};
+    std::atomic<uint64_t> m_primeFrames{0};
+    std::atomic<uint64_t> m_endIndex{0}; // one past the last frame of a finished sound
+    // The latest cut: frames in [from, to) are skipped once frames from `to`
+    // on exist. Stored from first, to last.
+    std::atomic<uint64_t> m_cutFrom{0};
+    std::atomic<uint64_t> m_cutTo{0};
 };

@@ -22,6 +22,7 @@ public:
         m_version.store(v + 1, std::memory_order_relaxed);
         m_seek.store(tag.seek, std::memory_order_release);
         m_position.store(tag.position, std::memory_order_release);
+        m_step.store(tag.step, std::memory_order_release);
         m_deviceFrames.store(deviceFrames, std::memory_order_release);
         m_version.store(v + 2, std::memory_order_release);
     }
@@ -31,6 +32,7 @@ public:
         for (;;) {
             const uint32_t before = m_version.load(std::memory_order_acquire);
             const FrameTag tag{m_seek.load(std::memory_order_acquire),
+                               m_step.load(std::memory_order_acquire),
                                m_position.load(std::memory_order_acquire)};
             const double frames = m_deviceFrames.load(std::memory_order_acquire);
             if ((before & 1u) == 0 && m_version.load(std::memory_order_relaxed) == before) {
@@ -45,5 +47,6 @@ private:
     std::atomic<uint32_t> m_version{0};
     std::atomic<uint32_t> m_seek{0};
     std::atomic<double> m_position{0.0};
+    std::atomic<float> m_step{0.0f};
     std::atomic<double> m_deviceFrames{0.0};
 };

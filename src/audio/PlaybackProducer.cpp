@@ -4,6 +4,7 @@
 #include "audio/AudioDecoder.h"
 #include "audio/FrameConverter.h"
 #include "audio/HandedPosition.h"
+#include "audio/ThreadPriority.h"
 #include "audio/TimeStretcher.h"
 
 #include <algorithm>
@@ -19,6 +20,15 @@ namespace {
 
 constexpr qsizetype kBlock = 1024;   // frames per stretcher call
 constexpr qsizetype kMinChunk = 256; // smallest write worth waking for
+// How far ahead of the device a rate change cuts the sound: about what a new
+// stream takes to make its first frames (a stretcher's start, a seek), so
+// that the old rate plays on just long enough to hide it. When they take
+// longer, the old rate plays on until they are there.
+constexpr double kCutLead = 0.025;
+// How much of a sound that starts from silence is made before the device
+// gets any: under load the first frames otherwise arrive faster than the
+// ones that follow them.
+constexpr double kPrime = 0.1;
 // A buffer dated this much before the frames counted so far means the file's
 // time stamps run back; smaller differences are codecs' rounding.
 constexpr double kRunBack = 0.1;
@@ -39,7 +49,7 @@ PlaybackProducer::PlaybackProducer(AudioDecoder& decoder, AudioRingBuffer& ring,
       m_streamStart(decoder.info().startTime),
       m_runIn(AudioDecoder::runInSeconds(decoder.info().formatID)),
       m_fillTarget(
-          std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.25 * m_sampleRate))),
+          std::min<qsizetype>(ring.capacity() / 2, static_cast<qsizetype>(0.5 * m_sampleRate))),
       m_stretcher(std::make_unique<TimeStretcher>(static_cast<int>(m_sampleRate), m_channels,
                                                   static_cast<int>(kBlock))),
       m_converter(std::make_unique<FrameConverter>(m_channels, AV_SAMPLE_FMT_FLT,
@@ -63,6 +73,16 @@ void PlaybackProducer::requestSeek(double seconds, uint32_t seek, double end)
 {
     m_seekTarget.store(seconds, std::memory_order_relaxed);
     m_seekEnd.store(end, std::memory_order_relaxed);
+    m_seekOnFromSound.store(false, std::memory_order_relaxed);
+    m_plainSeek.store(seek, std::memory_order_relaxed);
+    m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
+    wake();
+}
+
+void PlaybackProducer::requestContinue(uint32_t seek, double end)
+{
+    m_seekEnd.store(end, std::memory_order_relaxed);
+    m_seekOnFromSound.store(true, std::memory_order_relaxed);
     m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
     wake();
 }
@@ -84,7 +104,8 @@ PlaybackProducer::SeekTiming PlaybackProducer::lastSeekTiming() const
     // The time is stored before the seek number, so a matching number
     // guarantees the time belongs to it.
     const uint32_t seek = m_timedSeek.load(std::memory_order_acquire);
-    return {seek, m_timedNs.load(std::memory_order_relaxed)};
+    return {seek, m_timedNs.load(std::memory_order_relaxed),
+            m_timedFrom.load(std::memory_order_relaxed)};
 }
 
 void PlaybackProducer::wake()
@@ -98,6 +119,7 @@ void PlaybackProducer::wake()
 
 void PlaybackProducer::run()
 {
+    ThreadPriority::raiseForSound();
     while (!m_quit.load(std::memory_order_acquire)) {
         readMailbox();
         if (produce())
@@ -146,14 +168,23 @@ void PlaybackProducer::readMailbox()
     if (request != m_seenRequest) {
         m_seenRequest = request;
         m_rate = m_rateRequest.load(std::memory_order_acquire);
+        // A seek replaced by a later request before it was taken still moves
+        // the sound: the later one then starts from the seek's target.
+        const bool onFromSound = m_seekOnFromSound.load(std::memory_order_relaxed) &&
+                                 m_plainSeek.load(std::memory_order_relaxed) <= m_seek;
         seekTo(m_seekTarget.load(std::memory_order_relaxed), static_cast<uint32_t>(request >> 1),
-               m_seekEnd.load(std::memory_order_relaxed));
+               m_seekEnd.load(std::memory_order_relaxed), onFromSound);
     }
 }
 
-void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end)
+void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end, bool onFromSound)
 {
-    m_ring.flush();
+    if (onFromSound) {
+        seconds = m_ring.cut(static_cast<qsizetype>(kCutLead * m_sampleRate), m_writtenEnd);
+    } else {
+        m_ring.flush(std::min(m_fillTarget, static_cast<qsizetype>(kPrime * m_sampleRate)));
+        m_writtenEnd = std::max(seconds, 0.0);
+    }
     m_seek = seek;
     m_target = std::max(seconds, 0.0);
     m_spanEnd = end;
@@ -366,6 +397,7 @@ void PlaybackProducer::finish()
 {
     m_finished = true;
     m_endIndex = m_ring.writeIndex();
+    m_ring.markEnd();
 }
 
 void PlaybackProducer::writeToRing(const float* frames, qsizetype n, double first, double step)
@@ -373,9 +405,11 @@ void PlaybackProducer::writeToRing(const float* frames, qsizetype n, double firs
     if (n <= 0)
         return;
     m_ring.write(frames, n, m_seek, first, step);
+    m_writtenEnd = first + double(n) * step;
     if (!m_firstWritten) {
         m_firstWritten = true;
         m_timedNs.store(steadyNs(), std::memory_order_relaxed);
+        m_timedFrom.store(first, std::memory_order_relaxed);
         m_timedSeek.store(m_seek, std::memory_order_release);
     }
 }

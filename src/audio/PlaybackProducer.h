@@ -42,16 +42,22 @@ public:
     // `end` >= 0 nothing from `end` (source seconds) on is written: the device
     // never gets audio beyond the span asked for.
     void requestSeek(double seconds, uint32_t seek, double end = -1.0);
-    // Takes effect at the next requestSeek().
+    // A new stream that goes on from the sound rather than from a position:
+    // what the device is about to take plays out while the new frames are
+    // made, and they start where it stops (a rate change while playing).
+    void requestContinue(uint32_t seek, double end);
+    // Takes effect at the next requestSeek() or requestContinue().
     void requestRate(float rate);
     // Only changes how eagerly the thread polls the ring.
     void setPlaying(bool playing);
 
-    // When (steady clock, ns) the first frame of a seek entered the ring.
+    // When (steady clock, ns) the first frame of a seek entered the ring,
+    // and its source position.
     struct SeekTiming
     {
         uint32_t seek = 0;
         int64_t firstFrameNs = 0;
+        double from = 0.0;
     };
     SeekTiming lastSeekTiming() const;
 
@@ -59,7 +65,7 @@ private:
     void run();
     void wake();
     void readMailbox();
-    void seekTo(double seconds, uint32_t seek, double end);
+    void seekTo(double seconds, uint32_t seek, double end, bool onFromSound);
     void buildIndex();
     bool produce();
     bool produceDirect(qsizetype room);
@@ -84,6 +90,8 @@ private:
     std::atomic<uint64_t> m_seekRequest{0};
     std::atomic<double> m_seekTarget{0.0};
     std::atomic<double> m_seekEnd{-1.0};
+    std::atomic<bool> m_seekOnFromSound{false};
+    std::atomic<uint32_t> m_plainSeek{0}; // the newest request that was a seek
     std::atomic<float> m_rateRequest{1.0f};
     std::atomic<bool> m_playing{false};
     std::atomic<bool> m_quit{false};
@@ -94,6 +102,7 @@ private:
     // Diagnostics.
     std::atomic<uint32_t> m_timedSeek{0};
     std::atomic<int64_t> m_timedNs{0};
+    std::atomic<double> m_timedFrom{0.0};
 
     // Decode thread only.
     uint64_t m_seenRequest = 0;
@@ -120,6 +129,7 @@ private:
     bool m_firstWritten = false;
     qsizetype m_dropOutput = 0;
     double m_outPosition = 0.0;
+    double m_writtenEnd = 0.0; // source position where the last written frame ends
     std::vector<float> m_stretched;
     int m_skippedSeen = 0;
     bool m_errorReported = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "audio/QtAudioOutput.h"
 
+#include "audio/ThreadPriority.h"
 #include "common/Log.h"
 
 #include <QAudioDevice>
@@ -77,6 +78,7 @@ QtAudioOutput::QtAudioOutput()
     m_thread.start(QThread::TimeCriticalPriority);
     m_host = new QObject;
     m_host->moveToThread(&m_thread);
+    QMetaObject::invokeMethod(m_host, [] { ThreadPriority::raiseForSound(); });
 }
 
 QtAudioOutput::~QtAudioOutput()

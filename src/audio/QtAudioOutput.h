@@ -19,7 +19,7 @@ class QtAudioOutput : public AudioOutput
 public:
     // Qt 6.4 never starts a pull-mode sink whose buffer is 50 ms or less; at
     // 120 ms a machine busy with other work already starves it now and then.
-    static constexpr double kBufferSeconds = 0.2;
+    static constexpr double kBufferSeconds = 0.1;
 
     QtAudioOutput();
     ~QtAudioOutput() override;

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "audio/ThreadPriority.h"
+
+#include "common/Log.h"
+
+#include <cerrno>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace ThreadPriority {
+
+int raiseForSound()
+{
+    // On Linux each thread has its own nice value, set through its id.
+    const auto tid = static_cast<id_t>(::syscall(SYS_gettid));
+    for (const int nice : {-10, -5, -1}) {
+        if (::setpriority(PRIO_PROCESS, tid, nice) == 0) {
+            qCDebug(lcAudio, "Sound thread %d runs at nice %d", int(tid), nice);
+            return nice;
+        }
+    }
+    errno = 0;
+    const int now = ::getpriority(PRIO_PROCESS, tid);
+    qCDebug(lcAudio, "Sound thread %d keeps nice %d", int(tid), now);
+    return now;
+}
+
+} // namespace ThreadPriority
