@@ -94,17 +94,20 @@ qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t ol
     const uint64_t to = m_cutTo.load(std::memory_order_acquire);
     const uint64_t from = m_cutFrom.load(std::memory_order_relaxed);
     uint64_t index = std::max(m_read.load(std::memory_order_relaxed), flushIndex);
+    // One past the frame where the present sound ends, 0 while it goes on.
+    const uint64_t end = m_endIndex.load(std::memory_order_acquire);
     if (index == flushIndex && write - flushIndex < m_primeFrames.load(std::memory_order_relaxed) &&
-        m_endIndex.load(std::memory_order_acquire) <= flushIndex)
+        end == 0)
         return 0;
     const auto channels = static_cast<uint64_t>(m_channels);
     qsizetype count = 0;
     while (count < n && index < write) {
         uint64_t limit = write;
         if (index < to) {
-            // Enough of the new frames to finish this read: the sound does not
-            // switch over only to run dry at once.
-            const bool arrived = write - to >= static_cast<uint64_t>(n - count);
+            // Enough of the new frames to finish this read, or all there will
+            // be: the sound does not switch over only to run dry at once.
+            const bool arrived =
+                write - to >= static_cast<uint64_t>(n - count) || end > to + 1;
             if (arrived && index >= from) {
                 index = to;
                 continue;

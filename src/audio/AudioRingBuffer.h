@@ -84,7 +84,8 @@ private:
     alignas(64) std::atomic<uint64_t> m_read{0};
     alignas(64) std::atomic<uint64_t> m_flushIndex{0};
     std::atomic<uint64_t> m_primeFrames{0};
-    std::atomic<uint64_t> m_endIndex{0}; // one past the last frame of a finished sound
+    // Where the present sound ended, plus one; 0 while it goes on.
+    std::atomic<uint64_t> m_endIndex{0};
     // The latest cut: frames in [from, to) are skipped once frames from `to`
     // on exist. Stored from first, to last.
     std::atomic<uint64_t> m_cutFrom{0};

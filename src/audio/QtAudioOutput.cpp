@@ -158,6 +158,9 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
         return;
     }
     m_description = device.description();
+    // libpulse's event loop thread hands what the sink was given to the
+    // server; it must not wait behind other work any more than this one.
+    ThreadPriority::raiseThreadsNamed("threaded-ml");
     // How far the server has played is asked here, on the sink's thread,
     // rather than in the read callback, which must stay a plain copy.
     m_playedTimer = new QTimer(m_host);

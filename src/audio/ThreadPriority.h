@@ -11,5 +11,8 @@ namespace ThreadPriority {
 
 // Returns the nice value the calling thread now has.
 int raiseForSound();
+// The same for every thread of this process with this name: the sound
+// system's own threads, which carry the sound to the server.
+void raiseThreadsNamed(const char* name);
 
 } // namespace ThreadPriority
