@@ -28,6 +28,19 @@ std::optional<int> parseCommandLine(QCommandLineParser& parser, const QString& c
                                     const QStringList& args, const QString& argumentName,
                                     QString& positional)
 {
+    if (auto code = parseCommandLine(parser, command, args))
+        return code;
+    if (parser.positionalArguments().size() != 1) {
+        printError(QStringLiteral("%1 takes exactly one %2").arg(command, argumentName));
+        return UsageError;
+    }
+    positional = parser.positionalArguments().first();
+    return std::nullopt;
+}
+
+std::optional<int> parseCommandLine(QCommandLineParser& parser, const QString& command,
+                                    const QStringList& args)
+{
     parser.addHelpOption();
     const QCommandLineOption verbose(QStringLiteral("verbose"),
                                      QStringLiteral("print the diagnostic log on stderr"));
@@ -45,11 +58,6 @@ std::optional<int> parseCommandLine(QCommandLineParser& parser, const QString& c
         std::fputs(qPrintable(help), stdout);
         return Success;
     }
-    if (parser.positionalArguments().size() != 1) {
-        printError(QStringLiteral("%1 takes exactly one %2").arg(command, argumentName));
-        return UsageError;
-    }
-    positional = parser.positionalArguments().first();
     g_verbose = parser.isSet(verbose);
     qInstallMessageHandler(messageHandler);
     AudioDecoder::setLibraryLogging(g_verbose);

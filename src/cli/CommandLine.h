@@ -20,6 +20,11 @@ std::optional<int> parseCommandLine(QCommandLineParser& parser, const QString& c
                                     const QStringList& args, const QString& argumentName,
                                     QString& positional);
 
+// The same for a command whose forms take different numbers of positional
+// arguments: those are left to the command to check.
+std::optional<int> parseCommandLine(QCommandLineParser& parser, const QString& command,
+                                    const QStringList& args);
+
 // Failure with a one-line message unless `path` names an existing file.
 std::optional<int> requireFile(const QString& path);
 

@@ -19,5 +19,6 @@ int split(const QStringList& args);
 int parseLrc(const QStringList& args);
 int identity(const QStringList& args);
 int play(const QStringList& args);
+int check(const QStringList& args);
 
 } // namespace Cli

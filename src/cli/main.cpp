@@ -26,6 +26,8 @@ const Command kCommands[] = {
     {"identity", "print an audio file's identity and where its transcript is stored",
      Cli::identity},
     {"play", "play an audio file, or one segment of it, through the sound device", Cli::play},
+    {"check", "check typed text against a reference text; print the marks and score as JSON",
+     Cli::check},
 };
 
 void printUsage(FILE* to)

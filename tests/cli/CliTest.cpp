@@ -236,3 +236,70 @@ TEST_F(Cli, VerboseShowsTheEngineLog)
     EXPECT_TRUE(r.err.contains("Calculated adaptive threshold: "));
     EXPECT_TRUE(r.err.contains("Found 5 silence segments:"));
 }
+
+TEST_F(Cli, CheckPrintsOneSegmentWithItsMarks)
+{
+    const auto check = [&](const QStringList& options) {
+        const Result r = run(QStringList{"check", "--reference-text", "I will receive the letter.",
+                                         "--typed-text", "i will recieve letter"} +
+                             options);
+        EXPECT_EQ(r.exitCode, 0) << r.err.constData();
+        return r.out;
+    };
+    const QByteArray out = check({});
+    qsizetype at = 0;
+    for (const char* key :
+         {"index", "reference", "typed", "words", "mistakes", "score", "counts", "tokens"}) {
+        const qsizetype found = out.indexOf(QByteArray("\n  \"") + key + "\":");
+        EXPECT_GT(found, at) << key;
+        at = found;
+    }
+    const QJsonObject o = QJsonDocument::fromJson(out).object();
+    EXPECT_EQ(o.value("index").toInt(-1), 0);
+    EXPECT_EQ(o.value("typed").toString(), "i will recieve letter");
+    EXPECT_EQ(o.value("words").toInt(), 5);
+    EXPECT_EQ(o.value("mistakes").toDouble(), 1.5);
+    EXPECT_EQ(o.value("score").toDouble(), 0.7);
+    EXPECT_EQ(o.value("counts").toObject(), QJsonObject({{"correct", 2},
+                                                         {"minor", 1},
+                                                         {"typo", 1},
+                                                         {"wrong", 0},
+                                                         {"missing", 1},
+                                                         {"extra", 0}}));
+    const QJsonArray tokens = o.value("tokens").toArray();
+    ASSERT_EQ(tokens.size(), 5);
+    EXPECT_EQ(tokens[2].toObject(),
+              QJsonObject({{"mark", "typo"}, {"expected", "receive"}, {"typed", "recieve"}}));
+    EXPECT_EQ(tokens[3].toObject(),
+              QJsonObject({{"mark", "missing"}, {"expected", "the"}, {"typed", QJsonValue()}}));
+
+    // Each option changes what it says it does.
+    const QJsonObject strict = QJsonDocument::fromJson(check({"--typo-weight", "1", "--count-case",
+                                                              "--count-punctuation"}))
+                                   .object();
+    EXPECT_EQ(strict.value("words").toInt(), 6);
+    EXPECT_EQ(strict.value("mistakes").toDouble(), 4.0); // 2 typos, "the" and "."
+    EXPECT_EQ(strict.value("counts")["typo"].toInt(), 2);
+
+    const Result empty = run({"check", "--reference-text", "", "--typed-text", "hello"});
+    const QJsonObject none = QJsonDocument::fromJson(empty.out).object();
+    EXPECT_TRUE(none.value("score").isNull()) << empty.out.constData();
+    EXPECT_EQ(none.value("tokens")[0].toObject().value("expected"), QJsonValue());
+}
+
+TEST_F(Cli, CheckRefusesBadOptionsInOneLine)
+{
+    const QStringList texts{"--reference-text", "a", "--typed-text", "b"};
+    for (const QStringList& args : QList<QStringList>{texts + QStringList{"--typo-weight", "2"},
+                                                      texts + QStringList{"--typo-weight", "x"},
+                                                      texts + QStringList{"--typo-weight", "nan"},
+                                                      {"--reference-text", "a"},
+                                                      texts + QStringList{"extra.txt"},
+                                                      texts + QStringList{"--count-words"}}) {
+        const Result r = run(QStringList{"check"} + args);
+        EXPECT_EQ(r.exitCode, 2) << qPrintable(args.join(' '));
+        EXPECT_TRUE(r.out.isEmpty());
+        EXPECT_EQ(r.err.trimmed().count('\n'), 0) << r.err.constData();
+        EXPECT_TRUE(r.err.startsWith("kelmora-cli: ")) << r.err.constData();
+    }
+}

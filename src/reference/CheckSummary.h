@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "reference/Checker.h"
+
+#include <QString>
+#include <optional>
+
+namespace CheckSummary {
+
+// A check in one line of plain English, for a screen reader and the command
+// line: "2 mistakes: 'recieve' should be 'receive'; missing 'the'. Segment
+// 67%, lesson 88%." Differences in case that do not count are not listed.
+QString text(const CheckResult& result, std::optional<double> lessonScore);
+
+// A score as a whole percentage; only a perfect score shows 100% and only
+// a zero score 0%.
+int percent(double score);
+
+} // namespace CheckSummary
