@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "reference/ReferenceText.h"
+#include "support/TestSupport.h"
+
+#include <QString>
+#include <ostream>
+
+// Readable failures: gtest would print these as bytes.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const ReferenceUnit& unit, std::ostream* out)
+{
+    *out << '{' << '"' << unit.text.toStdString() << '"';
+    if (unit.start)
+        *out << ", " << *unit.start;
+    if (unit.end)
+        *out << ", " << *unit.end;
+    *out << '}';
+}
+
+namespace ReferenceTest {
+
+inline ReferenceUnit timed(const QString& text, double start, double end)
+{
+    return ReferenceUnit{text, start, end};
+}
+
+inline ReferenceUnit untimed(const QString& text)
+{
+    return ReferenceUnit{text, {}, {}};
+}
+
+} // namespace ReferenceTest
