@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "reference/ReferenceReader.h"
 #include "reference/ReferenceText.h"
 #include "support/TestSupport.h"
 
+#include <QDir>
 #include <QString>
+#include <QTemporaryDir>
 #include <ostream>
 
 // Readable failures: gtest would print these as bytes.
@@ -33,6 +36,17 @@ inline ReferenceUnit timed(const QString& text, double start, double end)
 inline ReferenceUnit untimed(const QString& text)
 {
     return ReferenceUnit{text, {}, {}};
+}
+
+// Writes the bytes as a file of that name in `folder` and reads it back as a
+// reference the way the session will.
+inline std::optional<ReferenceText> readAsFile(const QTemporaryDir& folder, const QString& name,
+                                               const QByteArray& bytes, double duration,
+                                               ReferenceReadError* error = nullptr)
+{
+    const QString path = folder.filePath(name);
+    TestSupport::writeFile(path, bytes);
+    return ReferenceReader::readFile(path, duration, error);
 }
 
 } // namespace ReferenceTest
