@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QJsonParseError>
 #include <QJsonValue>
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -45,7 +46,8 @@ ReferenceText::ReferenceText(QString sourceName, QList<ReferenceUnit> units)
 
 bool ReferenceText::isTimed() const
 {
-    return !m_units.isEmpty() && m_units.front().isTimed();
+    return !m_units.isEmpty() && std::all_of(m_units.cbegin(), m_units.cend(),
+                                             [](const ReferenceUnit& u) { return u.isTimed(); });
 }
 
 QByteArray ReferenceText::toJson() const

@@ -35,7 +35,8 @@ public:
     const QString& sourceName() const { return m_sourceName; }
     const QList<ReferenceUnit>& units() const { return m_units; }
     bool isEmpty() const { return m_units.isEmpty(); }
-    // True when there are units and they carry times.
+    // True when there are units and all of them carry times; a reference
+    // made by hand with only some timed is laid out as plain text.
     bool isTimed() const;
 
     // UTF-8 JSON: {"version": 1, "source": name, "units": [{"text", "start",

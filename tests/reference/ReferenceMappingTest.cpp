@@ -44,6 +44,9 @@ TEST(ReferenceMapping, PlainTextLineForLineWhenTheCountsAgree)
     const ReferenceText text = plain({"One. Two.", "Three", "Four"});
     EXPECT_EQ(ReferenceMapping::map(text, {0.0, 1.0, 50.0}, 60.0),
               (QStringList{"One. Two.", "Three", "Four"}));
+    // Times on only some units are no times.
+    const ReferenceText mixed("m.txt", {timed("a", 50.0, 51.0), untimed("b")});
+    EXPECT_EQ(ReferenceMapping::map(mixed, {0.0, 10.0}, 60.0), (QStringList{"a", "b"}));
 }
 
 TEST(ReferenceMapping, PlainTextSentencesFollowTheDuration)
