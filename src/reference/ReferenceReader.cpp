@@ -100,9 +100,12 @@ std::optional<ReferenceText> ReferenceReader::readBytes(const QByteArray& bytes,
                     QStringLiteral("%1 is UTF-16 text; only UTF-8 can be read.").arg(name));
     if (bytes.contains('\0'))
         return fail(error, Kind::NotText, QStringLiteral("%1 is not a text file.").arg(name));
-    const std::optional<QString> text = Lrc::decodeUtf8(bytes);
+    std::optional<QString> text = Lrc::decodeUtf8(bytes);
     if (!text)
         return fail(error, Kind::NotUtf8, QStringLiteral("%1 is not UTF-8 text.").arg(name));
+    // Byte-order marks left inside by joining files are no text; they would
+    // also hide a cue number, and Qt's JSON drops one that begins a string.
+    text->remove(QChar(0xFEFF));
     if (onlyWhiteSpace(*text))
         return fail(error, Kind::Empty, QStringLiteral("%1 is empty.").arg(name));
 

@@ -57,6 +57,11 @@ TEST(ReferenceReader, SubRip)
          "1\r00:00:01,000 --> 00:00:02,000 X1:100 X2:600 Y1:10 Y2:50\rOne\r2\r"
          "00:00:03,000 --> 00:00:04,000\rTwo",
          {timed("One", 1.0, 2.0), timed("Two", 3.0, 4.0)}},
+        {"byte-order marks left inside by joining files",
+         "f.srt",
+         "1\n00:00:01,000 --> 00:00:02,000\nOne\n\xEF\xBB\xBF"
+         "2\n00:00:03,000 --> 00:00:04,000\n\xEF\xBB\xBFTwo\n",
+         {timed("One", 1.0, 2.0), timed("Two", 3.0, 4.0)}},
         {"a text that is a number stays",
          "e.srt",
          "1\n00:00:01,000 --> 00:00:02,000\n1984\n\n2\n00:00:03,000 --> 00:00:04,000\nyes\n",
