@@ -10,8 +10,9 @@
 // on the audio, in time order. Dropped, each with one log line naming the
 // file and the place: a unit with a negative time, one that ends before it
 // starts, one that starts at or after the end of the audio, one that repeats
-// the unit before it exactly, and one the reader found a problem with. Overlapping units are kept:
-// two voices at once are both heard, and each lands where its midpoint is.
+// the unit before it exactly, and one the reader found a problem with.
+// Overlapping units are kept: two voices at once are both heard, and each
+// lands where its midpoint is.
 namespace TimedUnitFilter {
 
 // `duration` is the audio's length in seconds; 0 or less when unknown, and
