@@ -7,6 +7,7 @@ Q_LOGGING_CATEGORY(lcApp, "kelmora.app", QtInfoMsg)
 Q_LOGGING_CATEGORY(lcAudio, "kelmora.audio", QtInfoMsg)
 Q_LOGGING_CATEGORY(lcDesktop, "kelmora.desktop", QtInfoMsg)
 Q_LOGGING_CATEGORY(lcPreferences, "kelmora.preferences", QtInfoMsg)
+Q_LOGGING_CATEGORY(lcReference, "kelmora.reference", QtInfoMsg)
 Q_LOGGING_CATEGORY(lcTranscript, "kelmora.transcript", QtInfoMsg)
 Q_LOGGING_CATEGORY(lcUpdate, "kelmora.update", QtInfoMsg)
 

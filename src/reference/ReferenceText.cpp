@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "reference/ReferenceText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonParseError>
+#include <QJsonValue>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QString VersionKey = QStringLiteral("version");
+const QString SourceKey = QStringLiteral("source");
+const QString UnitsKey = QStringLiteral("units");
+const QString TextKey = QStringLiteral("text");
+const QString StartKey = QStringLiteral("start");
+const QString EndKey = QStringLiteral("end");
+
+std::optional<ReferenceText> fail(QString* error, const QString& reason)
+{
+    if (error)
+        *error = reason;
+    return std::nullopt;
+}
+
+// A time that is there must be a finite number; a missing one is fine.
+bool readTime(const QJsonObject& unit, const QString& key, std::optional<double>* time)
+{
+    const QJsonValue value = unit.value(key);
+    if (value.isUndefined())
+        return true;
+    if (!value.isDouble() || !std::isfinite(value.toDouble()))
+        return false;
+    *time = value.toDouble();
+    return true;
+}
+
+} // namespace
+
+ReferenceText::ReferenceText(QString sourceName, QList<ReferenceUnit> units)
+    : m_sourceName(std::move(sourceName)), m_units(std::move(units))
+{
+}
+
+bool ReferenceText::isTimed() const
+{
+    return !m_units.isEmpty() && std::all_of(m_units.cbegin(), m_units.cend(),
+                                             [](const ReferenceUnit& u) { return u.isTimed(); });
+}
+
+QByteArray ReferenceText::toJson() const
+{
+    QJsonArray units;
+    for (const ReferenceUnit& unit : m_units) {
+        QJsonObject object{{TextKey, unit.text}};
+        if (unit.start)
+            object.insert(StartKey, *unit.start);
+        if (unit.end)
+            object.insert(EndKey, *unit.end);
+        units.append(object);
+    }
+    const QJsonObject root{
+        {VersionKey, FormatVersion}, {SourceKey, m_sourceName}, {UnitsKey, units}};
+    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+}
+
+std::optional<ReferenceText> ReferenceText::fromJson(const QByteArray& json, QString* error)
+{
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (parseError.error != QJsonParseError::NoError)
+        return fail(error, QStringLiteral("not JSON (%1 at byte %2)")
+                               .arg(parseError.errorString())
+                               .arg(parseError.offset));
+    if (!document.isObject())
+        return fail(error, QStringLiteral("not a reference text (no JSON object)"));
+    const QJsonObject root = document.object();
+
+    const QJsonValue version = root.value(VersionKey);
+    if (!version.isDouble() || version.toDouble() != std::floor(version.toDouble()))
+        return fail(error, QStringLiteral("no format version"));
+    if (version.toDouble() != FormatVersion)
+        return fail(error, QStringLiteral("format version %1, where this program reads %2")
+                               .arg(version.toDouble())
+                               .arg(FormatVersion));
+    if (!root.value(SourceKey).isString())
+        return fail(error, QStringLiteral("no source file name"));
+    if (!root.value(UnitsKey).isArray())
+        return fail(error, QStringLiteral("no list of units"));
+
+    const QJsonArray array = root.value(UnitsKey).toArray();
+    QList<ReferenceUnit> units;
+    units.reserve(array.size());
+    for (qsizetype i = 0; i < array.size(); ++i) {
+        const QString where = QStringLiteral("unit %1: ").arg(i + 1);
+        const QJsonObject object = array.at(i).toObject();
+        if (!array.at(i).isObject() || !object.value(TextKey).isString())
+            return fail(error, where + QStringLiteral("no text"));
+        ReferenceUnit unit{object.value(TextKey).toString(), {}, {}};
+        if (!readTime(object, StartKey, &unit.start) || !readTime(object, EndKey, &unit.end))
+            return fail(error, where + QStringLiteral("a time that is not a number"));
+        if (unit.start.has_value() != unit.end.has_value())
+            return fail(error, where + QStringLiteral("a start without an end or the reverse"));
+        if (unit.isTimed() && *unit.start < 0.0)
+            return fail(error, where + QStringLiteral("a negative time"));
+        if (unit.isTimed() && *unit.end < *unit.start)
+            return fail(error, where + QStringLiteral("ends before it starts"));
+        if (!units.isEmpty() && unit.isTimed() != units.front().isTimed())
+            return fail(error, where + QStringLiteral("timed and untimed units mixed"));
+        units.append(std::move(unit));
+    }
+    return ReferenceText(root.value(SourceKey).toString(), std::move(units));
+}
