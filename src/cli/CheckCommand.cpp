@@ -5,6 +5,9 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "reference/Checker.h"
+#include "reference/ReferenceMapping.h"
+#include "reference/ReferenceReader.h"
+#include "transcript/TranscriptionManager.h"
 
 #include <QCommandLineParser>
 #include <cmath>
@@ -52,10 +55,8 @@ Json tokenText(const QList<Token>& tokens, qsizetype index)
 }
 
 // One segment's check as the command prints it.
-Json segmentJson(int index, const QString& reference, const QString& typed,
-                 const CheckOptions& options)
+Json segmentJson(int index, const QString& reference, const QString& typed, const CheckResult& r)
 {
-    const CheckResult r = Checker(options).check(reference, typed);
     Json::Array tokens;
     for (const AlignedToken& step : r.alignment) {
         tokens.push_back(Json::Object{{"mark", markName(step.mark)},
@@ -78,6 +79,62 @@ Json segmentJson(int index, const QString& reference, const QString& typed,
                         {"tokens", std::move(tokens)}};
 }
 
+void print(const Json& json)
+{
+    const std::string out = json.dump();
+    std::fwrite(out.data(), 1, out.size(), stdout);
+}
+
+// A reference file laid over a transcript's segments, each row checked.
+int checkFiles(const QString& referencePath, const QString& transcriptPath, double duration,
+               const CheckOptions& options)
+{
+    if (auto code = Cli::requireFile(referencePath))
+        return *code;
+    if (auto code = Cli::requireFile(transcriptPath))
+        return *code;
+    TranscriptionManager store([duration] { return duration; });
+    if (!store.loadTranscriptionsFromFile(transcriptPath)) {
+        Cli::printError(store.lastError());
+        return Cli::Failure;
+    }
+    const SegmentList segments = store.segments().value_or(SegmentList());
+    const QStringList typed = store.transcriptions();
+    if (segments.isEmpty()) {
+        Cli::printError(QStringLiteral("%1: the transcript has no segments").arg(transcriptPath));
+        return Cli::Failure;
+    }
+    // Without the audio, the transcript's last segment says where it ends.
+    const double end =
+        duration > 0.0 ? duration : segments.last().start + segments.last().duration;
+    ReferenceReadError error;
+    const std::optional<ReferenceText> reference =
+        ReferenceReader::readFile(referencePath, end, &error);
+    if (!reference) {
+        Cli::printError(error.message);
+        return Cli::Failure;
+    }
+    const QStringList expected = ReferenceMapping::map(*reference, segments);
+    const Checker checker(options);
+    QList<CheckResult> results;
+    Json::Array rows;
+    int checked = 0;
+    for (qsizetype i = 0; i < segments.size(); ++i) {
+        const QString want = expected.value(i);
+        const QString got = typed.value(i);
+        results.push_back(checker.check(want, got));
+        const CheckResult& r = results.last();
+        if (r.words > 0 && !r.typed.isEmpty())
+            ++checked;
+        rows.push_back(segmentJson(int(i), want, got, r));
+    }
+    const std::optional<double> score = lessonScore(results);
+    print(Json::Object{{"segments", std::move(rows)},
+                       {"score", score ? Json(*score) : Json()},
+                       {"checked", checked}});
+    return Cli::Success;
+}
+
 } // namespace
 
 namespace Cli {
@@ -92,23 +149,42 @@ int check(const QStringList& args)
                                            QStringLiteral("the reference"), QStringLiteral("TEXT"));
     const QCommandLineOption typedText(QStringLiteral("typed-text"),
                                        QStringLiteral("what was typed"), QStringLiteral("TEXT"));
-    parser.addOptions({referenceText, typedText});
+    const QCommandLineOption duration(
+        QStringLiteral("duration"),
+        QStringLiteral("with files: length of the audio in seconds (default 0: the transcript's)"),
+        QStringLiteral("D"), QStringLiteral("0"));
+    parser.addOptions({referenceText, typedText, duration});
+    parser.addPositionalArgument(QStringLiteral("REFERENCE"),
+                                 QStringLiteral("a reference file (.txt, .srt, .vtt, .lrc)"),
+                                 QStringLiteral("[REFERENCE TRANSCRIPT.lrc]"));
     const CheckCommandOptions checkOptions;
     checkOptions.addTo(parser);
     if (auto code = parseCommandLine(parser, QStringLiteral("check"), args))
         return *code;
 
-    if (!parser.isSet(referenceText) || !parser.isSet(typedText) ||
-        !parser.positionalArguments().isEmpty()) {
-        printError(QStringLiteral("check takes --reference-text and --typed-text"));
+    const QStringList files = parser.positionalArguments();
+    const bool texts = parser.isSet(referenceText) || parser.isSet(typedText);
+    if (texts ? (!parser.isSet(referenceText) || !parser.isSet(typedText) || !files.isEmpty())
+              : files.size() != 2) {
+        printError(QStringLiteral(
+            "check takes --reference-text and --typed-text, or a reference and a transcript"));
         return UsageError;
     }
     const std::optional<CheckOptions> options = checkOptions.read(parser);
     if (!options)
         return UsageError;
-    const std::string out =
-        segmentJson(0, parser.value(referenceText), parser.value(typedText), *options).dump();
-    std::fwrite(out.data(), 1, out.size(), stdout);
+    if (!texts) {
+        bool ok = false;
+        const double total = parser.value(duration).toDouble(&ok);
+        if (!ok || !std::isfinite(total) || total < 0.0) {
+            printError(QStringLiteral("--duration takes a number of seconds, 0 or more"));
+            return UsageError;
+        }
+        return checkFiles(files[0], files[1], total, *options);
+    }
+    const QString reference = parser.value(referenceText);
+    const QString typed = parser.value(typedText);
+    print(segmentJson(0, reference, typed, Checker(*options).check(reference, typed)));
     return Success;
 }
 

@@ -287,6 +287,37 @@ TEST_F(Cli, CheckPrintsOneSegmentWithItsMarks)
     EXPECT_EQ(none.value("tokens")[0].toObject().value("expected"), QJsonValue());
 }
 
+TEST_F(Cli, CheckLaysAReferenceFileOverATranscriptAndScoresTheLesson)
+{
+    QTemporaryDir dir;
+    const QString srt = dir.filePath("lesson.srt");
+    const QString lrc = dir.filePath("lesson.lrc");
+    // Cue midpoints 1.0, 3.5 and 4.5 s: the last two fall in the second segment.
+    TestSupport::writeFile(srt, "1\r\n00:00:00,500 --> 00:00:01,500\r\n<i>Good morning.</i>\r\n\r\n"
+                                "2\r\n00:00:03,000 --> 00:00:04,000\r\nHow are\r\n\r\n"
+                                "3\r\n00:00:04.000 --> 00:00:05.000\r\nyou today?\r\n");
+    TestSupport::writeFile(lrc, "[00:00.000]good morning\n[00:02.500]how are you to day\n"
+                                "[00:06.000]\n");
+    const Result r = run({"check", srt, lrc, "--duration", "8"});
+    ASSERT_EQ(r.exitCode, 0) << r.err.constData();
+    const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+    const QJsonArray rows = o.value("segments").toArray();
+    ASSERT_EQ(rows.size(), 3);
+    EXPECT_EQ(rows[0]["reference"].toString(), "Good morning.");
+    EXPECT_EQ(rows[0]["score"].toDouble(), 1.0);
+    EXPECT_EQ(rows[1]["reference"].toString(), "How are you today?");
+    EXPECT_EQ(rows[1]["counts"]["wrong"].toInt(), 1); // "to" for "today", "day" extra
+    EXPECT_TRUE(rows[2]["score"].isNull());
+    EXPECT_EQ(o.value("checked").toInt(), 2);
+    EXPECT_DOUBLE_EQ(o.value("score").toDouble(), (2.0 + 2.0) / 6.0);
+
+    TestSupport::writeFile(dir.filePath("empty.srt"), "");
+    const Result bad = run({"check", dir.filePath("empty.srt"), lrc});
+    EXPECT_EQ(bad.exitCode, 1);
+    EXPECT_TRUE(bad.err.contains("empty.srt")) << bad.err.constData();
+    EXPECT_EQ(bad.err.trimmed().count('\n'), 0) << bad.err.constData();
+}
+
 TEST_F(Cli, CheckRefusesBadOptionsInOneLine)
 {
     const QStringList texts{"--reference-text", "a", "--typed-text", "b"};
