@@ -18,8 +18,9 @@ class QtAudioOutput : public AudioOutput
 {
 public:
     // Qt 6.4 never starts a pull-mode sink whose buffer is 50 ms or less; at
-    // 120 ms a machine busy with other work already starves it now and then.
-    static constexpr double kBufferSeconds = 0.1;
+    // 120 ms a machine busy with other work already starves it now and then,
+    // and at 100 ms a quick pause and play can leave it silent for good.
+    static constexpr double kBufferSeconds = 0.2;
 
     QtAudioOutput();
     ~QtAudioOutput() override;

@@ -268,9 +268,9 @@ TEST_F(RealSound, RateChangesWhilePlayingAreHeardAtOnceAndTheSegmentEndsInPlace)
     const bool timed = true;
 #endif
     const double longestGap = 0.05;
-    // What the sink holds (Qt's sink does not start below about 100 ms), the
-    // short stretch of the old rate that hides the new one's start, and a
-    // held key's changes that come before the previous one is heard.
+    // What the sink holds, the short stretch of the old rate that hides the
+    // new one's start, and a held key's changes that come before the
+    // previous one is heard.
     const double longestWait = QtAudioOutput::kBufferSeconds + 0.1;
     const qint64 index = 1;
     const double start = engine->segments()[index].start;
