@@ -62,6 +62,12 @@ void KeyDownMonitor::perform(ShortcutAction action, ViewController& session)
     case ShortcutAction::SplitAudio:
         session.processAudioFile();
         break;
+    case ShortcutAction::Check:
+        session.checkCurrentSegment();
+        break;
+    case ShortcutAction::ShowNextWord:
+        session.showNextWord();
+        break;
     }
 }
 

@@ -119,6 +119,19 @@ public:
     // line) when it cannot be.
     static QString applicationSupportDirectory();
 
+    // ---- Reference text and the check (ViewController+Reference.cpp) ----
+    // Asks for a .txt, .srt, .vtt or .lrc file in a panel, then attaches it.
+    void attachReferenceText();
+    // Reads the file, keeps it in the store beside the transcript and maps it
+    // onto the segments; a file that cannot be read changes nothing.
+    void attachReferenceTextFrom(const QString& path);
+    void removeReferenceText();
+    bool hasReferenceText() const;
+    // Checks the current segment's row against its part of the reference.
+    void checkCurrentSegment();
+    // Shows the reference word after the last one typed right.
+    void showNextWord();
+
     // ---- Status bar and title (ViewController+StatusBar.cpp) ----
     void updateStatusBar();
     void changeWindowTitle(const QString& title);
@@ -138,6 +151,8 @@ signals:
     // A lesson appeared in the window, or the window went back to having none
     // (hasSegmentsShown()); the commands that need one follow it.
     void lessonShownChanged(bool shown);
+    // A reference text was attached to the lesson shown, or went away.
+    void referenceTextChanged(bool attached);
 
 private:
     // Every change of what the window shows goes through here.

@@ -350,3 +350,103 @@ inline constexpr std::array KeyboardCommands = {
     HelpGuide};
 
 } // namespace Texts
+
+// A reference text and the check against it: the commands, the file panel,
+// what cannot be read, the check bar and its spoken summary, the row marks,
+// the preferences.
+namespace Texts {
+
+inline constexpr const char* MenuAttachReference =
+    QT_TRANSLATE_NOOP("Localizable", "Attach &Reference Text…");
+inline constexpr const char* MenuRemoveReference =
+    QT_TRANSLATE_NOOP("Localizable", "Remo&ve Reference Text");
+inline constexpr const char* MenuCheck = QT_TRANSLATE_NOOP("Localizable", "Chec&k Segment");
+inline constexpr const char* MenuShowNextWord =
+    QT_TRANSLATE_NOOP("Localizable", "Show Next &Word");
+inline constexpr const char* ToolbarReference = QT_TRANSLATE_NOOP("Localizable", "Reference");
+inline constexpr const char* ToolbarCheck = QT_TRANSLATE_NOOP("Localizable", "Check");
+inline constexpr const char* TipReference = QT_TRANSLATE_NOOP(
+    "Localizable", "Attach the lesson's text (.txt, .srt, .vtt or .lrc) to check your typing");
+inline constexpr const char* TipCheck =
+    QT_TRANSLATE_NOOP("Localizable", "Check the current segment against the reference text");
+inline constexpr const char* ReferenceFiles =
+    QT_TRANSLATE_NOOP("Localizable", "Reference Texts");
+
+// Alerts; %@ is the file's name.
+inline constexpr const char* CannotReadReference =
+    QT_TRANSLATE_NOOP("Localizable", "Cannot Read Reference Text");
+inline constexpr const char* CannotStoreReference =
+    QT_TRANSLATE_NOOP("Localizable", "Cannot Store Reference Text");
+inline constexpr const char* ReferenceUnreadable =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” could not be read.");
+inline constexpr const char* ReferenceUnknownFormat =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” is not a .txt, .srt, .vtt or .lrc file.");
+inline constexpr const char* ReferenceTooLarge =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” is larger than 16 MB.");
+inline constexpr const char* ReferenceNotText =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” is not a text file.");
+inline constexpr const char* ReferenceNotUtf8 =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” is not UTF-8 text.");
+inline constexpr const char* ReferenceEmpty = QT_TRANSLATE_NOOP("Localizable", "“%@” is empty.");
+inline constexpr const char* ReferenceNotWebVtt =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” does not start with WEBVTT.");
+inline constexpr const char* ReferenceNothingUsable =
+    QT_TRANSLATE_NOOP("Localizable", "“%@” has no text within the recording.");
+
+// The check bar. %@ in CheckBarPrompt is the Check command's key.
+inline constexpr const char* CheckBarPrompt =
+    QT_TRANSLATE_NOOP("Localizable", "Press %@ to check this segment.");
+inline constexpr const char* CheckBarNextWord = QT_TRANSLATE_NOOP("Localizable", "Next word: %@");
+inline constexpr const char* CheckBarAllTyped =
+    QT_TRANSLATE_NOOP("Localizable", "Every word is typed.");
+
+// The check in one sentence: the check bar's accessible name. %@ in the
+// scores is a percentage ("67%").
+inline constexpr const char* SummaryNoReferenceWords =
+    QT_TRANSLATE_NOOP("Localizable", "No reference words for this segment.");
+inline constexpr const char* SummaryNoMistakes = QT_TRANSLATE_NOOP("Localizable", "No mistakes.");
+inline constexpr const char* SummaryOneMistake =
+    QT_TRANSLATE_NOOP("Localizable", "1 mistake: %@.");
+inline constexpr const char* SummaryMistakes =
+    QT_TRANSLATE_NOOP("Localizable", "%@ mistakes: %@.");
+inline constexpr const char* SummaryShouldBe =
+    QT_TRANSLATE_NOOP("Localizable", "'%@' should be '%@'");
+inline constexpr const char* SummaryMissing = QT_TRANSLATE_NOOP("Localizable", "missing '%@'");
+inline constexpr const char* SummaryExtra = QT_TRANSLATE_NOOP("Localizable", "extra '%@'");
+inline constexpr const char* SummarySegmentScore = QT_TRANSLATE_NOOP("Localizable", "Segment %@");
+inline constexpr const char* SummaryLessonAfterSegment =
+    QT_TRANSLATE_NOOP("Localizable", "lesson %@");
+inline constexpr const char* SummaryLessonScore = QT_TRANSLATE_NOOP("Localizable", "Lesson %@");
+
+// The mark by a checked row's number, for a tooltip and a screen reader.
+inline constexpr const char* RowMarkPerfect =
+    QT_TRANSLATE_NOOP("Localizable", "Checked: no mistakes");
+inline constexpr const char* RowMarkTypos = QT_TRANSLATE_NOOP("Localizable", "Checked: typos only");
+inline constexpr const char* RowMarkMistakes =
+    QT_TRANSLATE_NOOP("Localizable", "Checked: mistakes");
+
+// Preferences: the check's options and its two keys.
+inline constexpr const char* PrefChecking = QT_TRANSLATE_NOOP("Localizable", "Checking");
+inline constexpr const char* PrefCountPunctuation =
+    QT_TRANSLATE_NOOP("Localizable", "Count punctuation");
+inline constexpr const char* PrefTypoWeight = QT_TRANSLATE_NOOP("Localizable", "Typo weight:");
+inline constexpr const char* PrefCountCase = QT_TRANSLATE_NOOP("Localizable", "Count case");
+inline constexpr const char* PrefCheckAsIType =
+    QT_TRANSLATE_NOOP("Localizable", "Check as I type");
+inline constexpr const char* ShortcutCheck = QT_TRANSLATE_NOOP("Localizable", "Check segment");
+inline constexpr const char* ShortcutShowNextWord =
+    QT_TRANSLATE_NOOP("Localizable", "Show next word");
+
+inline constexpr std::array ReferenceCheck = {
+    MenuAttachReference, MenuRemoveReference, MenuCheck, MenuShowNextWord, ToolbarReference,
+    ToolbarCheck, TipReference, TipCheck, ReferenceFiles, CannotReadReference,
+    CannotStoreReference, ReferenceUnreadable, ReferenceUnknownFormat, ReferenceTooLarge,
+    ReferenceNotText, ReferenceNotUtf8, ReferenceEmpty, ReferenceNotWebVtt,
+    ReferenceNothingUsable, CheckBarPrompt, CheckBarNextWord, CheckBarAllTyped,
+    SummaryNoReferenceWords, SummaryNoMistakes, SummaryOneMistake, SummaryMistakes,
+    SummaryShouldBe, SummaryMissing, SummaryExtra, SummarySegmentScore,
+    SummaryLessonAfterSegment, SummaryLessonScore, RowMarkPerfect, RowMarkTypos,
+    RowMarkMistakes, PrefChecking, PrefCountPunctuation, PrefTypoWeight, PrefCountCase,
+    PrefCheckAsIType, ShortcutCheck, ShortcutShowNextWord};
+
+} // namespace Texts

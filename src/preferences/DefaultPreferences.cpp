@@ -44,4 +44,8 @@ void regDefaultPreference(Defaults& store)
     store.registerDefaults({{Sensitivity, QVariant(qint64(1))}});
     for (const ShortcutBinding& binding : shortcutBindings())
         objects.registerKeyboardShortcutForKey(binding.defaultsKey, binding.defaultShortcut);
+    store.registerDefaults({{CountPunctuation, false},
+                            {TypoWeight, QVariant(0.5)},
+                            {CountCase, false},
+                            {CheckAsIType, false}});
 }

@@ -25,6 +25,7 @@ public:
     enum KeyCode : qint64
     {
         KeyA = 0,
+        KeyH = 4,
         KeyQ = 12,
         KeyW = 13,
         KeyR = 15,

@@ -20,6 +20,9 @@ inline constexpr const char* PlayPauseShortcut = "kPlayPauseShortcut";
 inline constexpr const char* RepeatPlayShortcut = "kRepeatPlayShortcut";
 inline constexpr const char* PlayFirstShortcut = "kPlayFirstShortcut";
 inline constexpr const char* SplitAudioShortcut = "kSplitAudioShortcut";
+// The check against a reference text.
+inline constexpr const char* CheckShortcut = "kCheckShortcut";
+inline constexpr const char* ShowNextWordShortcut = "kShowNextWordShortcut";
 
 // Interface language: the chosen code, and the one-element preference list read
 // at start-up to pick the translation. Neither has a registered value.
@@ -48,4 +51,12 @@ inline constexpr const char* RecentDocuments = "RecentDocuments"; // list of str
 namespace PreferenceKeys {
 inline constexpr const char* LastDirectoryBookmark = "LastDirectoryBookmark"; // base64 text
 inline constexpr const char* LastAudioFileName = "LastAudioFileName";         // file name
+} // namespace PreferenceKeys
+
+// The check against a reference text.
+namespace PreferenceKeys {
+inline constexpr const char* CountPunctuation = "kCountPunctuation"; // bool
+inline constexpr const char* TypoWeight = "kTypoWeight";             // double: 0, 0.5 or 1
+inline constexpr const char* CountCase = "kCountCase";               // bool
+inline constexpr const char* CheckAsIType = "kCheckAsIType";         // bool
 } // namespace PreferenceKeys

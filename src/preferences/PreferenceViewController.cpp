@@ -33,7 +33,8 @@ namespace {
 
 const char* const kShortcutTexts[ShortcutCount] = {
     Texts::ShortcutPrevious,   Texts::ShortcutNext,      Texts::ShortcutPlayPause,
-    Texts::ShortcutRepeatPlay, Texts::ShortcutPlayFirst, Texts::ShortcutSplitAudio};
+    Texts::ShortcutRepeatPlay, Texts::ShortcutPlayFirst, Texts::ShortcutSplitAudio,
+    Texts::ShortcutCheck,      Texts::ShortcutShowNextWord};
 
 QFormLayout* makeForm(QWidget* page)
 {

@@ -21,6 +21,10 @@ const std::array<ShortcutBinding, ShortcutCount>& shortcutBindings()
          KeyboardShortcut(Keyboard::KeySlash, ModifierFlag::Control)},
         {ShortcutAction::SplitAudio, SplitAudioShortcut, "splitaudio",
          KeyboardShortcut(Keyboard::KeyF2, 0)},
+        {ShortcutAction::Check, CheckShortcut, "check",
+         KeyboardShortcut(Keyboard::KeyReturn, ModifierFlag::Control)},
+        {ShortcutAction::ShowNextWord, ShowNextWordShortcut, "shownextword",
+         KeyboardShortcut(Keyboard::KeyH, ModifierFlag::Control)},
     }};
     return bindings;
 }

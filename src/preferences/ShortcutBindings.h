@@ -8,7 +8,8 @@
 
 class ObjectStorage;
 
-// The six playback commands that can be bound to a key.
+// The commands that can be bound to a key: six for playback, two for the
+// check against a reference text.
 enum class ShortcutAction
 {
     PreviousSegment, // playPreviousSegment
@@ -17,6 +18,8 @@ enum class ShortcutAction
     RepeatPlay,      // toggleRepeat:
     PlayFirst,       // playFirstSegment
     SplitAudio,      // processAudioFile
+    Check,           // checkCurrentSegment
+    ShowNextWord,    // showNextWord
 };
 
 struct ShortcutBinding
@@ -27,14 +30,14 @@ struct ShortcutBinding
     KeyboardShortcut defaultShortcut;
 };
 
-inline constexpr std::size_t ShortcutCount = 6;
+inline constexpr std::size_t ShortcutCount = 8;
 using ShortcutSet = std::array<KeyboardShortcut, ShortcutCount>;
 
 // The bindings in the order a key press is tested against them; the first match
 // wins, so two commands on one key resolve to the earlier one.
 const std::array<ShortcutBinding, ShortcutCount>& shortcutBindings();
 
-// The six shortcuts as stored; one that cannot be read falls back to its default.
+// The shortcuts as stored; one that cannot be read falls back to its default.
 ShortcutSet storedShortcuts(const ObjectStorage& storage);
 
 // The command a key press runs: the event's key code masked to 16 bits must
