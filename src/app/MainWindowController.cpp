@@ -97,6 +97,16 @@ void MainWindowController::setupToolbar()
     QAction* music = add("importFromMusicLibrary", "music", Texts::ToolbarMusic, Texts::TipMusic);
     connect(music, &QAction::triggered, this,
             &MainWindowController::toolbarItemImportFromMusicLibrary);
+
+    QAction* reference = add("reference", "reference", Texts::ToolbarReference, Texts::TipReference);
+    connect(reference, &QAction::triggered, this,
+            [this] { m_viewController->attachReferenceText(); });
+    needsLesson(reference);
+    // Only a lesson with a reference text has anything to check.
+    m_checkButton = add("check", "check", Texts::ToolbarCheck, Texts::TipCheck);
+    connect(m_checkButton, &QAction::triggered, this,
+            [this] { m_viewController->checkCurrentSegment(); });
+    m_checkButton->setVisible(false);
 }
 
 void MainWindowController::setupMenus()
@@ -126,6 +136,11 @@ void MainWindowController::setupMenus()
                      [this] { m_viewController->importTranscription(); }));
     item(file, "menuImportFromMusic", Texts::MenuImportFromMusic,
          &MainWindowController::toolbarItemImportFromMusicLibrary);
+    needsLesson(item(file, "menuAttachReference", Texts::MenuAttachReference,
+                     [this] { m_viewController->attachReferenceText(); }));
+    m_removeReference = item(file, "menuRemoveReference", Texts::MenuRemoveReference,
+                             [this] { m_viewController->removeReferenceText(); });
+    m_referenceCommands.append(m_removeReference);
     QAction* save = item(file, "menuExport", Texts::MenuExport,
                          [this] { m_viewController->saveTranscription(); });
     save->setShortcut(QKeySequence::Save);
@@ -171,6 +186,9 @@ void MainWindowController::setupMenus()
     connect(m_viewController, &ViewController::lessonShownChanged, this,
             &MainWindowController::lessonShownChanged);
     lessonShownChanged(m_viewController->hasSegmentsShown());
+    connect(m_viewController, &ViewController::referenceTextChanged, this,
+            &MainWindowController::referenceTextChanged);
+    referenceTextChanged(m_viewController->hasReferenceText());
 }
 
 namespace {
@@ -181,6 +199,7 @@ struct PlaybackItem
     const char* name;
     const char* text;
     ShortcutAction action;
+    bool needsReference = false;
 };
 constexpr PlaybackItem kPlaybackItems[] = {
     {"menuPlayPause", Texts::MenuPlayPause, ShortcutAction::PlayPause},
@@ -189,6 +208,8 @@ constexpr PlaybackItem kPlaybackItems[] = {
     {"menuRepeatMode", Texts::MenuRepeatMode, ShortcutAction::RepeatPlay},
     {"menuFirstSegment", Texts::MenuFirstSegment, ShortcutAction::PlayFirst},
     {"menuSplitAudio", Texts::MenuSplitAudio, ShortcutAction::SplitAudio},
+    {"menuCheck", Texts::MenuCheck, ShortcutAction::Check, true},
+    {"menuShowNextWord", Texts::MenuShowNextWord, ShortcutAction::ShowNextWord, true},
 };
 
 } // namespace
@@ -204,7 +225,10 @@ void MainWindowController::setupPlaybackMenu()
         const ShortcutAction command = entry.action;
         connect(action, &QAction::triggered, this,
                 [this, command] { KeyDownMonitor::perform(command, *m_viewController); });
-        needsLesson(action);
+        if (entry.needsReference)
+            m_referenceCommands.append(action);
+        else
+            needsLesson(action);
     }
     connect(menu, &QMenu::aboutToShow, this, &MainWindowController::updatePlaybackMenu);
     updatePlaybackMenu();
@@ -251,6 +275,14 @@ void MainWindowController::lessonShownChanged(bool shown)
 {
     for (QAction* command : std::as_const(m_lessonCommands))
         command->setEnabled(shown);
+}
+
+void MainWindowController::referenceTextChanged(bool attached)
+{
+    for (QAction* command : std::as_const(m_referenceCommands))
+        command->setEnabled(attached);
+    if (m_checkButton)
+        m_checkButton->setVisible(attached);
 }
 
 void MainWindowController::rebuildRecentMenu()

@@ -77,6 +77,8 @@ private:
     void setupPlaybackMenu();
     // Enabled only while a lesson is in the window.
     void needsLesson(QAction* command);
+    // The commands that need a reference text follow whether there is one.
+    void referenceTextChanged(bool attached);
     void lessonShownChanged(bool shown);
     void playStatusDidChange();
     void toolbarItemRepeat();
@@ -93,5 +95,8 @@ private:
     QMenu* m_recentMenu = nullptr;
     QMenu* m_playbackMenu = nullptr;
     QList<QAction*> m_lessonCommands;
+    QList<QAction*> m_referenceCommands;
+    QPointer<QAction> m_checkButton;
+    QPointer<QAction> m_removeReference;
     bool m_closeConfirmed = false;
 };

@@ -137,6 +137,7 @@ void ViewController::showEngineSegmentsAndPlay()
             self->preparePlaySegment();
     });
     updateStatusBar();
+    loadLessonReference();
 }
 
 void ViewController::showAnalysisProgress()

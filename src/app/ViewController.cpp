@@ -14,6 +14,7 @@
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/PreferenceKeys.h"
+#include "views/CheckBar.h"
 #include "views/TranscriptionTableView.h"
 #include "views/WaveformView.h"
 
@@ -117,6 +118,7 @@ void ViewController::buildViews()
     m_statusBar->setGraphicsEffect(m_statusBarOpacity);
 
     m_loadingIndicator = new LoadingIndicator(this);
+    buildCheckBar();
 
     m_autoUpdateWavePosTimer = new QTimer(this);
     m_progressTimer = new QTimer(this);
@@ -183,6 +185,7 @@ void ViewController::setupConstraints()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_table, 1);
+    layout->addWidget(m_checkBar);
     layout->addWidget(m_waveformContainer);
     layout->addWidget(m_statusBar);
     m_heightWaveView = kWaveformHeight;

@@ -2,9 +2,13 @@
 #pragma once
 
 #include "app/SessionServices.h"
+#include "reference/Checker.h"
+#include "reference/ReferenceText.h"
 #include "views/TranscriptionTableDelegate.h"
 
+#include <QHash>
 #include <QPointer>
+#include <QSet>
 #include <QString>
 #include <QWidget>
 #include <functional>
@@ -12,6 +16,8 @@
 
 class AudioManager;
 class AutoSaveQueue;
+class CheckBar;
+struct ReferenceReadError;
 class Timer;
 class Defaults;
 class LoadingIndicator;
@@ -144,6 +150,7 @@ public:
     TranscriptionTableView* transcriptionTableView() const { return m_table; }
     WaveformView* waveformView() const { return m_waveformView; }
     QWidget* waveformContainer() const { return m_waveformContainer; }
+    CheckBar* checkBar() const { return m_checkBar; }
     QStatusBar* statusBar() const { return m_statusBar; }
     LoadingIndicator* loadingIndicator() const { return m_loadingIndicator; }
 
@@ -177,6 +184,27 @@ private:
     void showEngineSegmentsAndPlay();
     QString transcriptionStorePath() const;
     void stageTranscriptions(TranscriptionManager& store) const;
+
+    // Reference text (ViewController+Reference.cpp)
+    void buildCheckBar();
+    std::optional<QString> lessonIdentity() const;
+    // The lesson shown has new segments, or is another lesson: its stored
+    // reference is read again and laid over the segments.
+    void loadLessonReference();
+    void setReference(std::optional<ReferenceText> reference);
+    void referenceFileRead(const QString& path, const QString& audioPath,
+                           const std::optional<ReferenceText>& reference,
+                           const ReferenceReadError& error);
+
+    // The check (ViewController+Check.cpp)
+    CheckOptions checkOptions() const;
+    // The check of a row's text against its reference, kept until either changes.
+    const CheckResult& checkOfRow(qint64 row);
+    std::optional<double> currentLessonScore();
+    void rowTextChanged(qint64 row);
+    void showCheckOfRow(qint64 row);
+    void showCheckBarForRow(qint64 row);
+    void refreshCheckBarLook();
 
     AudioManager& m_engine;
     NotificationCenter& m_center;
@@ -218,4 +246,21 @@ private:
     QString m_loadedNotShown;    // loaded by the engine, shown once no load follows
     qsizetype m_segmentsShown = 0;
     std::function<void(bool)> m_openingFinished;
+
+    // The reference text of the lesson shown, each segment's part of it, and
+    // the checks: computed on demand, shown on the rows in m_checkedRows.
+    CheckBar* m_checkBar = nullptr;
+    std::optional<ReferenceText> m_reference;
+    QStringList m_referenceBySegment;
+    struct RowCheck
+    {
+        QString typed;
+        QString reference;
+        CheckResult result;
+    };
+    QHash<qint64, RowCheck> m_rowChecks;
+    CheckOptions m_rowChecksOptions;
+    QSet<qint64> m_checkedRows;
+    QHash<qint64, int> m_hints;
+    quint64 m_referenceReads = 0; // drops a read that a newer one overtook
 };

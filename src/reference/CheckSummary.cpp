@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reference/CheckSummary.h"
 
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+
 #include <QStringList>
 #include <cmath>
 
 namespace CheckSummary {
-
-namespace {
-
-QString quoted(const QList<Token>& tokens, qsizetype index)
-{
-    return QLatin1Char('\'') + tokens[index].text + QLatin1Char('\'');
-}
-
-} // namespace
 
 int percent(double score)
 {
@@ -25,7 +19,41 @@ int percent(double score)
     return p;
 }
 
-QString text(const CheckResult& result, std::optional<double> lessonScore)
+namespace {
+
+template<typename Text>
+Phrases phrasesFrom(Text text)
+{
+    return {text(Texts::SummaryNoReferenceWords),
+            text(Texts::SummaryNoMistakes),
+            text(Texts::SummaryOneMistake),
+            text(Texts::SummaryMistakes),
+            text(Texts::SummaryShouldBe),
+            text(Texts::SummaryMissing),
+            text(Texts::SummaryExtra),
+            text(Texts::SummarySegmentScore),
+            text(Texts::SummaryLessonAfterSegment),
+            text(Texts::SummaryLessonScore)};
+}
+
+QString percentText(double score)
+{
+    return QString::number(percent(score)) + QLatin1Char('%');
+}
+
+} // namespace
+
+Phrases englishPhrases()
+{
+    return phrasesFrom([](const char* text) { return QString::fromUtf8(text); });
+}
+
+Phrases localizedPhrases()
+{
+    return phrasesFrom([](const char* text) { return LocalizedString(text); });
+}
+
+QString text(const CheckResult& result, std::optional<double> lessonScore, const Phrases& phrases)
 {
     QStringList mistakes;
     for (const AlignedToken& step : result.alignment) {
@@ -35,38 +63,39 @@ QString text(const CheckResult& result, std::optional<double> lessonScore)
             break;
         case Mark::Typo:
         case Mark::Wrong:
-            mistakes << quoted(result.typed, step.typed) + QStringLiteral(" should be ") +
-                            quoted(result.reference, step.expected);
+            mistakes << stringWithFormat(phrases.shouldBe, {result.typed[step.typed].text,
+                                                            result.reference[step.expected].text});
             break;
         case Mark::Missing:
-            mistakes << QStringLiteral("missing ") + quoted(result.reference, step.expected);
+            mistakes << stringWithFormat(phrases.missing, {result.reference[step.expected].text});
             break;
         case Mark::Extra:
-            mistakes << QStringLiteral("extra ") + quoted(result.typed, step.typed);
+            mistakes << stringWithFormat(phrases.extra, {result.typed[step.typed].text});
             break;
         }
     }
 
     QString out;
     if (!result.score)
-        out = QStringLiteral("No reference words for this segment.");
+        out = phrases.noReferenceWords;
     else if (mistakes.isEmpty())
-        out = QStringLiteral("No mistakes.");
+        out = phrases.noMistakes;
+    else if (mistakes.size() == 1)
+        out = stringWithFormat(phrases.oneMistake, {mistakes.first()});
     else
-        out =
-            QStringLiteral("%1 %2: %3.")
-                .arg(mistakes.size())
-                .arg(mistakes.size() == 1 ? QStringLiteral("mistake") : QStringLiteral("mistakes"))
-                .arg(mistakes.join(QStringLiteral("; ")));
-    QStringList scores;
-    if (result.score)
-        scores << QStringLiteral("Segment %1%").arg(percent(*result.score));
-    if (lessonScore)
-        scores << QStringLiteral("lesson %1%").arg(percent(*lessonScore));
-    if (!scores.isEmpty()) {
-        scores.first()[0] = scores.first()[0].toUpper();
-        out += QLatin1Char(' ') + scores.join(QStringLiteral(", ")) + QLatin1Char('.');
-    }
+        out = stringWithFormat(phrases.mistakes,
+                               {QString::number(mistakes.size()), mistakes.join(QStringLiteral("; "))});
+    QString scores;
+    if (result.score && lessonScore)
+        scores = stringWithFormat(phrases.segmentScore, {percentText(*result.score)}) +
+                 QStringLiteral(", ") +
+                 stringWithFormat(phrases.lessonAfterSegment, {percentText(*lessonScore)});
+    else if (result.score)
+        scores = stringWithFormat(phrases.segmentScore, {percentText(*result.score)});
+    else if (lessonScore)
+        scores = stringWithFormat(phrases.lessonScore, {percentText(*lessonScore)});
+    if (!scores.isEmpty())
+        out += QLatin1Char(' ') + scores + QLatin1Char('.');
     return out;
 }
 

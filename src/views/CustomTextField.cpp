@@ -3,6 +3,7 @@
 
 #include "views/ColorContrast.h"
 #include "views/NamedColors.h"
+#include "views/RowMarkPainter.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -218,14 +219,35 @@ void CustomTextField::focusOutEvent(QFocusEvent* event)
     update();
 }
 
+void CustomTextField::setMarks(const QList<TextMark>& marks)
+{
+    if (m_marks == marks)
+        return;
+    m_marks = marks;
+    update();
+}
+
 void CustomTextField::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);
+    const QRect around = cursorRect();
+    QPainter painter(this);
+    if (!m_marks.isEmpty()) {
+        // The line edit tells only where its caret is; every other position
+        // is measured from there, which also follows a scrolled text.
+        const QString shown = displayText();
+        const QFontMetricsF metrics(font());
+        const qreal caretX = around.center().x() + 1;
+        const qreal caretAdvance = metrics.horizontalAdvance(shown.left(cursorPosition()));
+        const auto xAt = [&](qsizetype position) {
+            return caretX + metrics.horizontalAdvance(shown.left(position)) - caretAdvance;
+        };
+        RowMarkPainter::paintMarks(painter, font(), m_marks, xAt,
+                                   textOrigin(rect(), font()).y(), shown.size());
+    }
     if (!m_caretShown || !hasFocus() || hasSelectedText())
         return;
-    const QRect around = cursorRect();
     const int height = std::min(QFontMetrics(font()).height(), this->height());
-    QPainter painter(this);
     painter.fillRect(QRect(around.center().x() - kCaretWidth / 2 + 1, lineTop(rect(), font()),
                            kCaretWidth, height),
                      m_cursorColor);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "views/RowMarks.h"
+
 #include <QBasicTimer>
 #include <QColor>
 #include <QLineEdit>
@@ -36,6 +38,10 @@ public:
     QColor textColor() const { return m_textColor; }
     void setTextColor(const QColor& color);
 
+    // A check's marks on the text, drawn as the painted rows draw them.
+    void setMarks(const QList<TextMark>& marks);
+    const QList<TextMark>& marks() const { return m_marks; }
+
     // True for the four keys the field swallows.
     static bool isKeptKey(int key);
 
@@ -61,4 +67,5 @@ private:
     QColor m_textColor;
     QBasicTimer m_blink;
     bool m_caretShown = false;
+    QList<TextMark> m_marks;
 };

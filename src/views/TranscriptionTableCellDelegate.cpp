@@ -2,6 +2,7 @@
 #include "views/TranscriptionTableCellDelegate.h"
 
 #include "views/CustomTextField.h"
+#include "views/RowMarkPainter.h"
 #include "views/TranscriptionTableModel.h"
 
 #include <QHelpEvent>
@@ -41,11 +42,18 @@ void TranscriptionTableCellDelegate::paint(QPainter* painter, const QStyleOption
                                            const QModelIndex& index) const
 {
     const bool current = index.row() == m_currentRow;
+    const auto* table = qobject_cast<const QTableView*>(option.widget);
+    const bool firstShown = index.column() == TranscriptionTableModel::LineNumberColumn ||
+                            (table && table->isColumnHidden(TranscriptionTableModel::LineNumberColumn));
+    const RowMarks* marks = nullptr;
+    if (m_rowMarks) {
+        const auto found = m_rowMarks->constFind(index.row());
+        if (found != m_rowMarks->cend())
+            marks = &found.value();
+    }
+    if (marks && firstShown)
+        RowMarkPainter::paintVerdict(*painter, marks->verdict, option.rect, m_font);
     if (current) {
-        const auto* table = qobject_cast<const QTableView*>(option.widget);
-        const bool firstShown =
-            index.column() == TranscriptionTableModel::LineNumberColumn ||
-            (table && table->isColumnHidden(TranscriptionTableModel::LineNumberColumn));
         if (firstShown) {
             const QRect field = CustomTextField::fieldRect(option.rect);
             painter->fillRect(QRect(option.rect.left(), field.top(), kMarkWidth, field.height()),
@@ -56,7 +64,8 @@ void TranscriptionTableCellDelegate::paint(QPainter* painter, const QStyleOption
             return;
     }
     const QString text = index.data(Qt::DisplayRole).toString();
-    if (text.isEmpty())
+    // An empty row still shows where its words are missing.
+    if (text.isEmpty() && !(marks && index.column() == kText))
         return;
     painter->save();
     painter->setFont(m_font);
@@ -70,7 +79,17 @@ void TranscriptionTableCellDelegate::paint(QPainter* painter, const QStyleOption
         painter->drawText(origin, text);
     } else {
         painter->setPen(m_textColor);
-        painter->drawText(origin, shownText(index.row(), text, option.rect));
+        const QString& shown = shownText(index.row(), text, option.rect);
+        painter->drawText(origin, shown);
+        if (marks) {
+            // A text cut short keeps its marks up to the ellipsis.
+            const qsizetype whole = shown == text ? text.size() : shown.size() - 1;
+            const QFontMetricsF metrics(m_font);
+            const auto xAt = [&](qsizetype position) {
+                return origin.x() + metrics.horizontalAdvance(text.left(position));
+            };
+            RowMarkPainter::paintMarks(*painter, m_font, marks->marks, xAt, origin.y(), whole);
+        }
     }
     painter->restore();
 }

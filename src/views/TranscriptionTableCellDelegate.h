@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "views/RowMarks.h"
+
 #include <QColor>
 #include <QFont>
 #include <QHash>
@@ -29,6 +31,8 @@ public:
     // The row with the live editor (-1 for none): it gets the mark, and its
     // text is left to the editor.
     void setCurrentRow(int row) { m_currentRow = row; }
+    // The marks of checked rows, owned by the table; null for none.
+    void setRowMarks(const QHash<int, RowMarks>* marks) { m_rowMarks = marks; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -69,4 +73,5 @@ private:
     QColor m_numberColor;
     QColor m_markColor;
     int m_currentRow = -1;
+    const QHash<int, RowMarks>* m_rowMarks = nullptr;
 };

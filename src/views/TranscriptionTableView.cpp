@@ -51,6 +51,12 @@ TranscriptionTableView::TranscriptionTableView(AudioManager& engine, Notificatio
 
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TranscriptionTableView::selectionDidChange);
+    m_cellDelegate->setRowMarks(&m_rowMarks);
+    connect(m_model, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex& from, const QModelIndex& to) {
+                for (int row = from.row(); row <= to.row(); ++row)
+                    emit rowTextChanged(row);
+            });
 
     initDisplaySetting();
     initHeader();
@@ -71,6 +77,7 @@ void TranscriptionTableView::updateTranscriptions(const QStringList& texts)
     moveEditorToRow(-1);
     if (QWidget* focused = focusWidget(); focused && isAncestorOf(focused))
         focused->clearFocus();
+    m_rowMarks.clear();
     m_model->resetTranscriptions(texts);
     m_currentIndex = -1;
     m_currentEditingRow = -1;
@@ -90,6 +97,33 @@ void TranscriptionTableView::updateTranscriptions(const QStringList& texts)
         if (m_transcriptionDelegate)
             m_transcriptionDelegate->didSelectSegmentAtIndex(0);
     });
+}
+
+void TranscriptionTableView::setRowMarks(qint64 row, const RowMarks& marks)
+{
+    if (row < 0 || row >= rowCount())
+        return;
+    const auto found = m_rowMarks.constFind(int(row));
+    if (found == m_rowMarks.cend() ? marks.isEmpty() : found.value() == marks)
+        return;
+    if (marks.isEmpty())
+        m_rowMarks.remove(int(row));
+    else
+        m_rowMarks.insert(int(row), marks);
+    if (m_editor && m_editorRow == row)
+        m_editor->setMarks(marks.marks);
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        update(m_model->index(int(row), column));
+}
+
+void TranscriptionTableView::clearAllRowMarks()
+{
+    if (m_rowMarks.isEmpty())
+        return;
+    m_rowMarks.clear();
+    if (m_editor)
+        m_editor->setMarks({});
+    viewport()->update();
 }
 
 void TranscriptionTableView::updateTranscription(const QString& text, qint64 index)
@@ -179,12 +213,14 @@ void TranscriptionTableView::moveEditorToRow(int row)
     update(m_model->index(row, TranscriptionTableModel::LineNumberColumn));
     m_editor = qobject_cast<CustomTextField*>(indexWidget(index));
     m_editorRow = row;
+    emit currentRowChanged(row);
     if (!m_editor)
         return;
     // The view selects a new editor's whole text; entering a row puts the
     // caret after what is there instead, so typing goes on from its end.
     m_editor->deselect();
     m_editor->end(false);
+    m_editor->setMarks(m_rowMarks.value(row).marks);
     connect(m_editor, &CustomTextField::editingBegan, this,
             [this, row] { m_currentEditingRow = row; });
     // The learner keeps typing in whichever row became current.

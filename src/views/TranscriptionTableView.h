@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "views/RowMarks.h"
+
 #include "views/TranscriptionTableDelegate.h"
 
 #include <QColor>
@@ -48,6 +50,12 @@ public:
     qint64 currentEditingRow() const { return m_currentEditingRow; }
     void setTranscriptionDelegate(TranscriptionTableDelegate* delegate);
 
+    // A check's marks on a row, drawn in the painted row and in its editor;
+    // an empty RowMarks takes them away. Replacing the rows takes them all.
+    void setRowMarks(qint64 row, const RowMarks& marks);
+    void clearAllRowMarks();
+    RowMarks rowMarks(qint64 row) const { return m_rowMarks.value(int(row)); }
+
     // The live text field of a row (null when the row has none), and whether
     // a widget is one: a key hook lets its shortcuts act while a row is typed in.
     QWidget* editorForRow(qint64 row) const;
@@ -66,6 +74,12 @@ public:
     // the measure of row and header heights.
     QSize getTableHeaderSegmentSize(const QFont& font) const;
     int tableHeaderHeight() const { return m_tableHeaderHeight; }
+
+signals:
+    // A row's text changed, typed or set from outside.
+    void rowTextChanged(qint64 row);
+    // The live editor moved to another row: the one the learner works on.
+    void currentRowChanged(qint64 row);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -95,6 +109,7 @@ private:
     CustomTableHeaderView* m_header = nullptr;
     TranscriptionTableDelegate* m_transcriptionDelegate = nullptr;
 
+    QHash<int, RowMarks> m_rowMarks;
     QPointer<CustomTextField> m_editor;
     int m_editorRow = -1;
     qint64 m_currentIndex = -1;
