@@ -54,6 +54,7 @@ const char* messageFor(ReferenceReadError::Kind kind)
 void ViewController::buildCheckBar()
 {
     m_checkBar = new CheckBar(this);
+    m_checkBar->setAccessibleDescription(LocalizedString(Texts::ToolbarCheck));
     m_checkBar->hide();
     connect(m_table, &TranscriptionTableView::rowTextChanged, this, &ViewController::rowTextChanged);
     connect(m_table, &TranscriptionTableView::currentRowChanged, this,
@@ -85,7 +86,8 @@ void ViewController::attachReferenceText()
 {
     if (m_segmentsShown == 0 || isProcessing())
         return;
-    auto* panel = new QFileDialog(window());
+    auto* panel = new QFileDialog(window(),
+                                  LocalizedString(Texts::MenuAttachReference).remove(u'&'));
     panel->setObjectName(QStringLiteral("referencePanel"));
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);

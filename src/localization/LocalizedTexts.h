@@ -357,7 +357,7 @@ inline constexpr std::array KeyboardCommands = {
 namespace Texts {
 
 inline constexpr const char* MenuAttachReference =
-    QT_TRANSLATE_NOOP("Localizable", "Attach &Reference Text…");
+    QT_TRANSLATE_NOOP("Localizable", "&Attach Reference Text…");
 inline constexpr const char* MenuRemoveReference =
     QT_TRANSLATE_NOOP("Localizable", "Remo&ve Reference Text");
 inline constexpr const char* MenuCheck = QT_TRANSLATE_NOOP("Localizable", "Chec&k Segment");

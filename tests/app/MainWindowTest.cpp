@@ -81,7 +81,8 @@ TEST(MainWindow, StartsEmptyWithTheLaunchTextAndTheLessonCommandsDisabled)
         {"open", "menuOpen"},         {"playPause", "menuPlayPause"},
         {"repeatMode", "menuRepeatMode"}, {"export", "menuExport"},
         {"settings", "menuPreferences"}, {"import", "menuImportDictation"},
-        {"clear", "menuClearDictation"}, {"importFromMusicLibrary", "menuImportFromMusic"}};
+        {"clear", "menuClearDictation"}, {"importFromMusicLibrary", "menuImportFromMusic"},
+        {"reference", "menuAttachReference"}, {"check", "menuCheck"}};
     auto* toolbar = h.window().findChild<QToolBar*>(QStringLiteral("mainToolbar"));
     ASSERT_NE(toolbar, nullptr);
     ASSERT_EQ(toolbar->actions().size(), twins.size());
@@ -306,7 +307,8 @@ TEST(MainWindowMenus, F10AndMnemonicsOpenTheMenusAndPlaybackShowsTheKeysBoundNow
     ASSERT_TRUE(waitFor([&] { return menu(h.window(), "menuFile")->isVisible(); }, 2000));
     EXPECT_EQ(itemTexts(menu(h.window(), "menuFile")),
               (QStringList{"&Open…", "Open &Recent", "&Import Dictation…",
-                           "Import from &Music Folder…", "&Export Dictation…", "&Quit Kelmora"}));
+                           "Import from &Music Folder…", "&Attach Reference Text…",
+                           "Remo&ve Reference Text", "&Export Dictation…", "&Quit Kelmora"}));
     // The menus print Qt's own keys the way the six are printed.
     EXPECT_EQ(h.window().findChild<QAction*>("menuOpen")->shortcut().toString(
                   QKeySequence::NativeText),
@@ -320,7 +322,8 @@ TEST(MainWindowMenus, F10AndMnemonicsOpenTheMenusAndPlaybackShowsTheKeysBoundNow
     EXPECT_EQ(itemTexts(playback),
               (QStringList{"&Play/Pause\tReturn", "Pre&vious Segment\tUp", "&Next Segment\tDown",
                            "&Repeat Mode\tCtrl+R", "&First Segment\tCtrl+/",
-                           "&Split the Audio Again\tF2"}));
+                           "&Split the Audio Again\tF2", "Chec&k Segment\tCtrl+Return",
+                           "Show Next &Word\tCtrl+H"}));
     closeMenus(h.window());
 
     ObjectStorage(h.defaults())

@@ -132,6 +132,14 @@ def main(argv):
                                         None), "button " + name)
         button.get_action_iface().do_action(0)
         print("pressed " + name)
+    elif command == "described":
+        # The name of the control whose description is the argument: a line
+        # whose name is what it shows, like the check bar.
+        wanted = argv[2]
+        node = until(lambda app: next((n for n in walk(app)
+                                       if n.get_description() == wanted), None),
+                     "control described " + wanted)
+        print(node.get_name())
     elif command in ("text", "centre", "left-of"):
         name = argv[2]
         node = until(lambda app: next((n for n in walk(app)

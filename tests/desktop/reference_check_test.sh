@@ -1,0 +1,81 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Checking typing against a reference text at a real desktop: the real kelmora
+# in Xvfb under a window manager with a PulseAudio null sink, driven by real
+# key presses. The lesson's text is attached through the File menu's file
+# panel, a sentence is typed with one typo and one word left out, Ctrl+Return
+# checks it, and the check bar is read through the accessibility bus.
+#
+# Usage: reference_check_test.sh KELMORA FIXTURE SCREENSHOT_DIR
+set -euo pipefail
+
+if [ -z "${KELMORA_IN_SESSION:-}" ]; then
+  export KELMORA_IN_SESSION=1
+  exec dbus-run-session -- "$0" "$@"
+fi
+
+kelmora="$1"
+fixture="$2"
+shots="$3"
+source "$(dirname "$0")/desktop_session.sh"
+start_sound
+start_window_manager
+export LANG=C.UTF-8 LANGUAGE=
+export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+
+title="$(basename "${fixture%.*}")"
+
+# window_named TITLE: waits up to ten seconds for a visible window of that title.
+window_named() {
+  local id=""
+  for _ in $(seq 50); do
+    id="$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1 || true)"
+    [ -n "$id" ] && { echo "$id"; return 0; }
+    sleep 0.2
+  done
+  return 1
+}
+
+# The fixture's five sentences, one line each: line i is segment i.
+reference="$work/lesson.txt"
+printf '%s\n' "Good morning, everyone." "Today we will practise listening." \
+  "Please write down every sentence you hear." "Take your time, and check your spelling." \
+  "See you next week." > "$reference"
+
+"$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
+pids+=($!)
+probe wait-window "$title" > /dev/null || fail "no window titled $title"
+main="$(window_named "$title")" || fail "no visible window titled $title"
+xdotool windowactivate --sync "$main"
+until_equal "row 0 at the start" "" probe focused-text
+
+# Alt+F, A: File → Attach Reference Text…, a file panel.
+xdotool key alt+f
+sleep 0.3
+xdotool key a
+panel="$(window_named "Attach Reference Text…")" || fail "Alt+F, A opened no file panel"
+xdotool windowactivate --sync "$panel"
+xdotool type --delay 20 "$reference"
+xdotool key Return
+until_equal "the check bar once attached" "Press Ctrl+Return to check this segment." \
+  probe described Check
+echo "attached $(basename "$reference") through the File menu"
+
+# Back in row 0: one typo, one word left out, then the Check key.
+xdotool windowactivate --sync "$main"
+xdotool type --delay 30 "Good mornin"
+until_equal "row 0" "Good mornin" probe cell 0 1
+xdotool key ctrl+Return
+summary="2 mistakes: 'mornin' should be 'morning'; missing 'everyone'. Segment 50%, lesson 50%."
+until_equal "the check bar after Ctrl+Return" "$summary" probe described Check
+echo "check bar: $summary"
+screenshot reference-check
+
+# Typing takes the marks away until the next check; Ctrl+H gives a hint.
+xdotool type --delay 30 "g"
+until_equal "the check bar after typing" "Press Ctrl+Return to check this segment." \
+  probe described Check
+xdotool key ctrl+h
+until_equal "the hint" "Press Ctrl+Return to check this segment. Next word: everyone" \
+  probe described Check
+echo "a change takes the check away; Ctrl+H names the next word"
