@@ -122,9 +122,8 @@ CheckOptions ViewController::checkOptions() const
     return options;
 }
 
-const CheckResult& ViewController::checkOfRow(qint64 row)
+const CheckResult& ViewController::checkOfRow(qint64 row, const CheckOptions& options)
 {
-    const CheckOptions options = checkOptions();
     if (options.typoWeight != m_rowChecksOptions.typoWeight ||
         options.countCase != m_rowChecksOptions.countCase ||
         options.countPunctuation != m_rowChecksOptions.countPunctuation) {
@@ -144,14 +143,14 @@ const CheckResult& ViewController::checkOfRow(qint64 row)
     return cached.result;
 }
 
-std::optional<double> ViewController::currentLessonScore()
+std::optional<double> ViewController::currentLessonScore(const CheckOptions& options)
 {
     // Every row with typing and a reference counts, checked or not.
     QList<CheckResult> results;
     const QStringList& texts = m_table->mutableTranscriptions();
     for (qint64 row = 0; row < texts.size(); ++row) {
         if (!texts[row].trimmed().isEmpty() && !m_referenceBySegment.value(row).isEmpty())
-            results.append(checkOfRow(row));
+            results.append(checkOfRow(row, options));
     }
     return lessonScore(results);
 }
@@ -168,11 +167,12 @@ void ViewController::checkCurrentSegment()
 
 void ViewController::showCheckOfRow(qint64 row)
 {
-    const CheckResult& result = checkOfRow(row);
-    m_table->setRowMarks(row, rowMarksFor(result));
-    const std::optional<double> lesson = currentLessonScore();
+    // Read once: the stored options are not free to read for every row.
+    const CheckOptions options = checkOptions();
+    m_table->setRowMarks(row, rowMarksFor(checkOfRow(row, options)));
+    const std::optional<double> lesson = currentLessonScore(options);
     // The lesson score may have re-checked rows; this row's result is cached.
-    const CheckResult& shown = checkOfRow(row);
+    const CheckResult& shown = checkOfRow(row, options);
     QStringList scores;
     if (shown.score)
         scores << stringWithFormat(LocalizedString(Texts::SummarySegmentScore),
@@ -222,7 +222,7 @@ void ViewController::rowTextChanged(qint64 row)
         if (row == m_table->currentIndex())
             showCheckOfRow(row);
         else
-            m_table->setRowMarks(row, rowMarksFor(checkOfRow(row)));
+            m_table->setRowMarks(row, rowMarksFor(checkOfRow(row, checkOptions())));
         return;
     }
     // Marks describe the text they were made for; a changed row waits for
@@ -240,7 +240,7 @@ void ViewController::showNextWord()
         return;
     const qint64 row = m_table->currentIndex() >= 0 ? m_table->currentIndex()
                                                     : m_currentSegmentIndex;
-    const CheckResult& result = checkOfRow(row);
+    const CheckResult& result = checkOfRow(row, checkOptions());
     if (!result.score)
         return;
     ++m_hints[row];

@@ -199,8 +199,8 @@ private:
     // The check (ViewController+Check.cpp)
     CheckOptions checkOptions() const;
     // The check of a row's text against its reference, kept until either changes.
-    const CheckResult& checkOfRow(qint64 row);
-    std::optional<double> currentLessonScore();
+    const CheckResult& checkOfRow(qint64 row, const CheckOptions& options);
+    std::optional<double> currentLessonScore(const CheckOptions& options);
     void rowTextChanged(qint64 row);
     void showCheckOfRow(qint64 row);
     void showCheckBarForRow(qint64 row);
