@@ -5,6 +5,7 @@
 #include "preferences/PreferenceKeys.h"
 
 #include <QVariant>
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -61,9 +62,11 @@ double readTypoWeight(const Defaults& store, double fallback)
         readNumber(store.objectForKey(QLatin1String(PreferenceKeys::TypoWeight)));
     if (!d)
         return fallback;
+    // Clamped first: beside a huge value every weight is equally far.
+    const double wanted = std::clamp(*d, TypoWeights.front(), TypoWeights.back());
     double nearest = TypoWeights.front();
     for (double weight : TypoWeights) {
-        if (std::abs(*d - weight) < std::abs(*d - nearest))
+        if (std::abs(wanted - weight) < std::abs(wanted - nearest))
             nearest = weight;
     }
     return nearest;
