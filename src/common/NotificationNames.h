@@ -47,4 +47,9 @@ inline constexpr const char* ShowLineNumbersDidChange = "ShowLineNumbersDidChang
 inline constexpr const char* ShowAudioWaveDidChange = "ShowAudioWaveDidChange";
 inline constexpr const char* ShowStatusBarDidChange = "ShowStatusBarDidChange";
 
+// One of the check's settings changed in the preferences panel (reset posts
+// once for each). Object: the setting's key (QString, a PreferenceKeys name);
+// no userInfo. Observers read storedCheckOptions() and storedCheckAsIType().
+inline constexpr const char* CheckOptionsDidChange = "CheckOptionsDidChange";
+
 } // namespace Notifications

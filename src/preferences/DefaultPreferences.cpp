@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DefaultPreferences.h"
 
+#include "preferences/CheckPreferences.h"
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/PreferenceKeys.h"
@@ -44,8 +45,10 @@ void regDefaultPreference(Defaults& store)
     store.registerDefaults({{Sensitivity, QVariant(qint64(1))}});
     for (const ShortcutBinding& binding : shortcutBindings())
         objects.registerKeyboardShortcutForKey(binding.defaultsKey, binding.defaultShortcut);
-    store.registerDefaults({{CountPunctuation, false},
-                            {TypoWeight, QVariant(0.5)},
-                            {CountCase, false},
+    // The check's own defaults, so the store and a bare CheckOptions agree.
+    const CheckOptions check;
+    store.registerDefaults({{CountPunctuation, check.countPunctuation},
+                            {TypoWeight, QVariant(check.typoWeight)},
+                            {CountCase, check.countCase},
                             {CheckAsIType, false}});
 }

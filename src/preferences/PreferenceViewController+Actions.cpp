@@ -10,6 +10,7 @@
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "preferences/CheckPreferences.h"
 #include "preferences/ColorWell.h"
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
@@ -98,6 +99,39 @@ void PreferenceViewController::showStatusBarChanged(bool on)
     storeSwitch(PreferenceKeys::ShowStatusBar, Notifications::ShowStatusBarDidChange, on);
 }
 
+void PreferenceViewController::checkSettingChanged(const char* key)
+{
+    m_defaults.synchronize();
+    postValue(Notifications::CheckOptionsDidChange, QString::fromLatin1(key));
+}
+
+void PreferenceViewController::countPunctuationChanged(bool on)
+{
+    m_defaults.setBool(on, QLatin1String(PreferenceKeys::CountPunctuation));
+    checkSettingChanged(PreferenceKeys::CountPunctuation);
+}
+
+void PreferenceViewController::typoWeightChanged(int index)
+{
+    const QVariant weight = m_typoWeightPopUp->itemData(index);
+    if (!weight.isValid())
+        return;
+    m_defaults.setDouble(weight.toDouble(), QLatin1String(PreferenceKeys::TypoWeight));
+    checkSettingChanged(PreferenceKeys::TypoWeight);
+}
+
+void PreferenceViewController::countCaseChanged(bool on)
+{
+    m_defaults.setBool(on, QLatin1String(PreferenceKeys::CountCase));
+    checkSettingChanged(PreferenceKeys::CountCase);
+}
+
+void PreferenceViewController::checkAsITypeChanged(bool on)
+{
+    m_defaults.setBool(on, QLatin1String(PreferenceKeys::CheckAsIType));
+    checkSettingChanged(PreferenceKeys::CheckAsIType);
+}
+
 void PreferenceViewController::languageChanged(int index)
 {
     const QString code = m_languagePopUpButton->itemData(index).toString();
@@ -158,6 +192,12 @@ void PreferenceViewController::resetToDefaults()
 
     changeFont(DefaultLook::dictationTextFont());
 
+    showCheckSettings(CheckOptions(), false);
+    countPunctuationChanged(m_countPunctuationSwitch->isChecked());
+    typoWeightChanged(m_typoWeightPopUp->currentIndex());
+    countCaseChanged(m_countCaseSwitch->isChecked());
+    checkAsITypeChanged(m_checkAsITypeSwitch->isChecked());
+
     const int english = m_languagePopUpButton->findData(QStringLiteral("en"));
     if (english >= 0) {
         selectLanguageItem(QStringLiteral("en"));
@@ -180,7 +220,8 @@ void PreferenceViewController::resetToDefaults()
 
 void PreferenceViewController::resetKeyboard()
 {
-    // Store order: previous, next, play/pause, repeat, play first, split audio.
+    // Store order: previous, next, play/pause, repeat, play first, split audio,
+    // check, show next word.
     ObjectStorage storage(m_defaults);
     for (std::size_t i = 0; i < ShortcutCount; ++i) {
         const ShortcutBinding& binding = shortcutBindings()[i];

@@ -7,6 +7,7 @@
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "preferences/CheckPreferences.h"
 #include "preferences/ColorWell.h"
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
@@ -22,12 +23,16 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -170,8 +175,46 @@ QWidget* PreferenceViewController::buildGeneralTab()
     note->setWordWrap(true);
     note->setForegroundRole(QPalette::PlaceholderText);
     grid->addWidget(note, row++, 0, 1, 2);
+    grid->addWidget(buildCheckingGroup(), row++, 0, 1, 2);
     grid->setRowStretch(row, 1);
     return page;
+}
+
+QGroupBox* PreferenceViewController::buildCheckingGroup()
+{
+    auto* group = new QGroupBox(LocalizedString(Texts::PrefChecking));
+    group->setObjectName(QStringLiteral("checkingGroup"));
+    auto* grid = new QGridLayout(group);
+    grid->setColumnStretch(0, 1);
+    int row = 0;
+    auto addSwitch = [&](const char* name, const char* text,
+                         void (PreferenceViewController::*slot)(bool)) {
+        auto* box = new QCheckBox(LocalizedString(text));
+        box->setObjectName(QLatin1String(name));
+        connect(box, &QCheckBox::toggled, this, slot);
+        grid->addWidget(box, row++, 0, 1, 2);
+        return box;
+    };
+    m_countPunctuationSwitch = addSwitch("countPunctuationSwitch", Texts::PrefCountPunctuation,
+                                         &PreferenceViewController::countPunctuationChanged);
+
+    m_typoWeightPopUp = new QComboBox;
+    m_typoWeightPopUp->setObjectName(QStringLiteral("typoWeightPopUp"));
+    // Numbers in the interface's way of writing them ("0,5" in German).
+    for (double weight : TypoWeights)
+        m_typoWeightPopUp->addItem(QLocale().toString(weight), weight);
+    connect(m_typoWeightPopUp, &QComboBox::currentIndexChanged, this,
+            &PreferenceViewController::typoWeightChanged);
+    QLabel* label = buddyLabel(Texts::PrefTypoWeight, m_typoWeightPopUp);
+    label->setWordWrap(true);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(m_typoWeightPopUp, row++, 1);
+
+    m_countCaseSwitch = addSwitch("countCaseSwitch", Texts::PrefCountCase,
+                                  &PreferenceViewController::countCaseChanged);
+    m_checkAsITypeSwitch = addSwitch("checkAsITypeSwitch", Texts::PrefCheckAsIType,
+                                     &PreferenceViewController::checkAsITypeChanged);
+    return group;
 }
 
 QWidget* PreferenceViewController::buildAppearanceTab()
@@ -308,8 +351,23 @@ void PreferenceViewController::loadCurrentSettings()
             storage.keyboardShortcutForKey(binding.defaultsKey).value_or(binding.defaultShortcut);
         m_shortcutFields[i]->setShortcut(shortcut.keyCode(), shortcut.modifierFlags());
     }
+    showCheckSettings(storedCheckOptions(m_defaults), storedCheckAsIType(m_defaults));
     selectLanguageItem(m_language.interfaceLanguage());
     printPreference();
+}
+
+void PreferenceViewController::showCheckSettings(const CheckOptions& options, bool checkAsIType)
+{
+    const QSignalBlocker b1(m_countPunctuationSwitch), b2(m_typoWeightPopUp),
+        b3(m_countCaseSwitch), b4(m_checkAsITypeSwitch);
+    m_countPunctuationSwitch->setChecked(options.countPunctuation);
+    const auto nearest = std::min_element(
+        TypoWeights.begin(), TypoWeights.end(), [&options](double a, double b) {
+            return std::abs(a - options.typoWeight) < std::abs(b - options.typoWeight);
+        });
+    m_typoWeightPopUp->setCurrentIndex(int(nearest - TypoWeights.begin()));
+    m_countCaseSwitch->setChecked(options.countCase);
+    m_checkAsITypeSwitch->setChecked(checkAsIType);
 }
 
 QString PreferenceViewController::fontDisplayText(const QFont& font)
@@ -347,5 +405,9 @@ void PreferenceViewController::printPreference() const
                static_cast<long long>(field->keyCode()),
                static_cast<unsigned long long>(field->modifierFlags()));
     }
+    qCInfo(lcPreferences, "countPunctuation=%d", int(m_countPunctuationSwitch->isChecked()));
+    qCInfo(lcPreferences, "typoWeight=%f", m_typoWeightPopUp->currentData().toDouble());
+    qCInfo(lcPreferences, "countCase=%d", int(m_countCaseSwitch->isChecked()));
+    qCInfo(lcPreferences, "checkAsIType=%d", int(m_checkAsITypeSwitch->isChecked()));
     qCInfo(lcPreferences, "=====================================================================");
 }

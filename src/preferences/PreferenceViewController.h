@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <array>
 
+struct CheckOptions;
 class AudioManager;
 class ColorWell;
 class Defaults;
@@ -15,6 +16,7 @@ class NotificationCenter;
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
+class QGroupBox;
 class QPushButton;
 class QTabWidget;
 class RepeatTimesSpinBox;
@@ -45,6 +47,10 @@ public:
     void showAudioWaveChanged(bool on);
     void showStatusBarChanged(bool on);
     void languageChanged(int index);
+    void countPunctuationChanged(bool on);
+    void typoWeightChanged(int index);
+    void countCaseChanged(bool on);
+    void checkAsITypeChanged(bool on);
     void changeFont(const QFont& font);
     void showFontPanel();
 
@@ -70,10 +76,13 @@ private:
     QWidget* buildGeneralTab();
     QWidget* buildAppearanceTab();
     QWidget* buildShortcutsTab();
+    QGroupBox* buildCheckingGroup();
     void initKeyboardShortcuts();
     void fillLanguagePopUp();
     void selectLanguageItem(const QString& code);
     void updateFontDisplayLabel();
+    void showCheckSettings(const CheckOptions& options, bool checkAsIType);
+    void checkSettingChanged(const char* key);
     void saveEngineSettings();
     void postValue(const char* name, const QVariant& object);
     void storeSwitch(const char* key, const char* notification, bool on);
@@ -96,8 +105,12 @@ private:
     QCheckBox* m_showAudioWaveSwitch = nullptr;
     QCheckBox* m_showStatusBarSwitch = nullptr;
     QComboBox* m_languagePopUpButton = nullptr;
+    QCheckBox* m_countPunctuationSwitch = nullptr;
+    QComboBox* m_typoWeightPopUp = nullptr; // item data: the weight, a double
+    QCheckBox* m_countCaseSwitch = nullptr;
+    QCheckBox* m_checkAsITypeSwitch = nullptr;
     QPushButton* m_resetButton = nullptr;
     // In the order of shortcutBindings(): previous, next, play/pause, repeat,
-    // play first, split audio.
+    // play first, split audio, check, show next word.
     std::array<ShortcutTextField*, ShortcutCount> m_shortcutFields{};
 };

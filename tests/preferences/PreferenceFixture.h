@@ -55,6 +55,7 @@ struct PreferenceFixture
                                  Notifications::ShowLineNumbersDidChange,
                                  Notifications::ShowAudioWaveDidChange,
                                  Notifications::ShowStatusBarDidChange,
+                                 Notifications::CheckOptionsDidChange,
                                  Notifications::LanguageDidChangeNotification}) {
             center.addObserver(name, window.get(), [this](const NotificationCenter::Notification& n) {
                 posted << n.name;

@@ -274,12 +274,15 @@ TEST(LanguageSwitching, BothWindowsInFourLanguagesShowEveryTextWhole)
             tabWidget->setCurrentIndex(i);
             QApplication::processEvents();
             EXPECT_EQ(clippedTexts(&window).join(" | ").toStdString(), "") << "tab " << i;
-            // Every spin box sits on its label's line, right of it.
+            // Every spin box, and the typo weight, sits on its label's line,
+            // right of it.
             for (QLabel* label : tabWidget->currentWidget()->findChildren<QLabel*>()) {
                 const QWidget* control = label->buddy();
-                if (!qobject_cast<const QAbstractSpinBox*>(control))
+                if (!qobject_cast<const QAbstractSpinBox*>(control) &&
+                    !(control && control->objectName() == "typoWeightPopUp"))
                     continue;
-                const QRect l = label->geometry(), c = control->geometry();
+                const QRect l(label->mapTo(&window, QPoint()), label->size());
+                const QRect c(control->mapTo(&window, QPoint()), control->size());
                 EXPECT_TRUE(c.top() < l.bottom() && l.top() < c.bottom() && c.left() > l.right())
                     << label->text().toStdString() << " at " << l.top() << ".." << l.bottom()
                     << ", its control at " << c.top() << ".." << c.bottom();

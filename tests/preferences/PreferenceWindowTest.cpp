@@ -4,12 +4,14 @@
 // order; a recording field when the window closes.
 
 #include "app/WindowHarness.h"
+#include "preferences/CheckPreferences.h"
 #include "preferences/ColorWell.h"
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/PreferenceKeys.h"
 #include "preferences/PreferenceFixture.h"
 #include "preferences/RepeatTimesSpinBox.h"
+#include "preferences/ShortcutBindings.h"
 #include "preferences/ShortcutTextField.h"
 
 #include <QCheckBox>
@@ -18,7 +20,10 @@
 #include <QDoubleSpinBox>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QTabWidget>
 #include <gtest/gtest.h>
@@ -43,6 +48,10 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
         d.setDouble(0.2, PlaySpeed); // out of the engine's range: 1.0
         d.setInteger(12000, MaxRepeatPlayTimes); // over the engine's bound: 20
         d.setBool(false, ShowAudioWave);
+        // As the settings file hands them back after a restart: text.
+        d.setObject(QStringLiteral("true"), CountPunctuation);
+        d.setObject(QStringLiteral("0"), TypoWeight);
+        d.setObject(QStringLiteral("true"), CheckAsIType);
     });
     EXPECT_EQ(f.window->size(), QSize(400, 500));
     EXPECT_EQ(f.window->windowTitle(), "Preferences");
@@ -55,6 +64,35 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(f.control<QPushButton>("fontDisplayLabel")->text(), "Menlo - 20.0");
     EXPECT_EQ(f.control<ShortcutTextField>("repeatplay")->text(), "Ctrl+R");
     EXPECT_EQ(f.control<ShortcutTextField>("splitaudio")->text(), "F2");
+    EXPECT_EQ(f.control<ShortcutTextField>("check")->text(), "Ctrl+Return");
+    EXPECT_EQ(f.control<ShortcutTextField>("shownextword")->text(), "Ctrl+H");
+    EXPECT_TRUE(f.control<QCheckBox>("countPunctuationSwitch")->isChecked());
+    EXPECT_EQ(f.control<QComboBox>("typoWeightPopUp")->currentText(), "0");
+    EXPECT_FALSE(f.control<QCheckBox>("countCaseSwitch")->isChecked());
+    EXPECT_TRUE(f.control<QCheckBox>("checkAsITypeSwitch")->isChecked());
+    EXPECT_EQ(f.control<QGroupBox>("checkingGroup")->title(), "Checking");
+
+    // Every control has a name for a screen reader, and every tab's controls
+    // fit the window at its opening size: none is pushed off the page.
+    auto* tabs = f.window->findChild<QTabWidget*>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        QWidget* page = tabs->currentWidget();
+        const QList<QWidget*> controls = page->findChildren<QWidget*>();
+        for (QWidget* control : controls) {
+            if (qobject_cast<QLabel*>(control) || qobject_cast<QGroupBox*>(control) ||
+                !control->isVisibleTo(page) || control->parentWidget()->inherits("QAbstractSpinBox"))
+                continue;
+            SCOPED_TRACE(control->objectName().toStdString());
+            const QString name = control->accessibleName().isEmpty()
+                                     ? control->property("text").toString()
+                                     : control->accessibleName();
+            EXPECT_FALSE(name.isEmpty());
+            EXPECT_TRUE(page->rect().contains(QRect(control->mapTo(page, QPoint()), control->size())));
+        }
+    }
+    EXPECT_EQ(f.control<QComboBox>("typoWeightPopUp")->accessibleName(), "Typo weight:");
+    EXPECT_EQ(f.control<ShortcutTextField>("shownextword")->accessibleName(), "Show next word");
 
     // The language pop-up in its table's order, each name in its own language,
     // then in the interface's (once where the two are the same).
@@ -74,9 +112,17 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(lines.value(start + 1), "minSegmentDuration=2.500000");
     EXPECT_EQ(lines.value(start + 5), "tableBackgroundColor=#ff123f7c,value=#123F7C");
     EXPECT_EQ(lines.value(start + 9), "dictionfont=Menlo - 20.0");
+    // One line for each shortcut, in the order a key press is matched.
+    for (std::size_t i = 0; i < ShortcutCount; ++i)
+        EXPECT_TRUE(lines.value(start + 10 + int(i))
+                        .startsWith(QLatin1String(shortcutBindings()[i].fieldIdentifier) + " key,"))
+            << i;
     EXPECT_EQ(lines.value(start + 10), "previous key,Up,keycode=126,modifierflags=0");
-    EXPECT_EQ(lines.value(start + 16),
-              "=====================================================================");
+    EXPECT_EQ(lines.value(start + 16), "check key,Return,keycode=36,modifierflags=262144");
+    EXPECT_EQ(lines.mid(start + 18, 5),
+              (QStringList{"countPunctuation=1", "typoWeight=0.000000", "countCase=0",
+                           "checkAsIType=1",
+                           "====================================================================="}));
 }
 
 TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
@@ -162,6 +208,78 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     EXPECT_EQ(fonts->currentFont().family(), "DejaVu Sans");
     EXPECT_DOUBLE_EQ(fonts->currentFont().pointSizeF(), 14.0);
     fonts->reject();
+
+    // The check's settings, each stored and told by its key.
+    f.window->findChild<QTabWidget*>()->setCurrentIndex(0);
+    f.posted.clear();
+    f.objects.clear();
+    for (const char* name : {"countPunctuationSwitch", "countCaseSwitch", "checkAsITypeSwitch"}) {
+        auto* box = f.control<QCheckBox>(name);
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    }
+    auto* weight = f.control<QComboBox>("typoWeightPopUp");
+    weight->setFocus();
+    QTest::keyClick(weight, Qt::Key_Down);
+    EXPECT_EQ(weight->currentText(), "1");
+    EXPECT_TRUE(d.boolForKey(CountPunctuation));
+    EXPECT_TRUE(d.boolForKey(CountCase));
+    EXPECT_TRUE(d.boolForKey(CheckAsIType));
+    EXPECT_DOUBLE_EQ(d.doubleForKey(TypoWeight), 1.0);
+    EXPECT_EQ(f.posted, QStringList(4, "CheckOptionsDidChange"));
+    EXPECT_EQ(f.objects, (QVariantList{QString(CountPunctuation), QString(CountCase),
+                                       QString(CheckAsIType), QString(TypoWeight)}));
+    const CheckOptions read = storedCheckOptions(d);
+    EXPECT_TRUE(read.countPunctuation && read.countCase && storedCheckAsIType(d));
+    EXPECT_DOUBLE_EQ(read.typoWeight, 1.0);
+}
+
+TEST(PreferenceWindow, CheckSettingsTheStoreCannotReadShowTheirDefaultsAndAWeightTheNearest)
+{
+    struct Case
+    {
+        QVariant weight, onOff; // stored under kTypoWeight, and under the three switches
+        QString shown;          // the typo weight shown
+        bool on;                // the three switches shown
+    };
+    const Case cases[] = {
+        {QStringLiteral("heavy"), QStringLiteral("maybe"), "0.5", false},
+        {QVariantList{1, 2}, QVariantList{true}, "0.5", false},
+        {QStringLiteral("nan"), QStringLiteral("yes"), "0.5", true},
+        {0.8, 2, "1", true},
+        {QStringLiteral(" 0.3 "), QStringLiteral("1"), "0.5", true},
+        {-4, 0.0, "0", false},
+        {1e300, QStringLiteral("false"), "1", false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.weight.toString().toStdString() + " / " + c.onOff.toString().toStdString());
+        PreferenceFixture f([&c](Defaults& d) {
+            d.setObject(c.weight, TypoWeight);
+            for (const char* key : {CountPunctuation, CountCase, CheckAsIType})
+                d.setObject(c.onOff, key);
+        });
+        EXPECT_EQ(f.control<QComboBox>("typoWeightPopUp")->currentText(), c.shown);
+        for (const char* name : {"countPunctuationSwitch", "countCaseSwitch", "checkAsITypeSwitch"})
+            EXPECT_EQ(f.control<QCheckBox>(name)->isChecked(), c.on) << name;
+        // The check reads what the window shows; showing it stores nothing.
+        const CheckOptions read = storedCheckOptions(f.defaults.store());
+        EXPECT_EQ(QLocale().toString(read.typoWeight), c.shown);
+        EXPECT_EQ(read.countCase, c.on);
+        EXPECT_EQ(storedCheckAsIType(f.defaults.store()), c.on);
+        EXPECT_EQ(f.defaults.store().objectForKey(TypoWeight), c.weight);
+        EXPECT_TRUE(f.posted.isEmpty());
+    }
+
+    // The weights are written the interface's way.
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    {
+        PreferenceFixture f;
+        auto* weight = f.control<QComboBox>("typoWeightPopUp");
+        EXPECT_EQ(weight->currentText(), "0,5");
+        EXPECT_EQ(weight->itemText(0), "0");
+        EXPECT_EQ(weight->itemText(2), "1");
+    }
+    QLocale::setDefault(before);
 }
 
 TEST(PreferenceWindow, TypedRepeatCountStopsAtFiveDigitsAndAnEmptyFieldBecomesTheMinimum)
@@ -195,6 +313,9 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     f.control<QDoubleSpinBox>("playSpeedStepper")->setValue(2.0);
     f.control<QCheckBox>("showStatusBarSwitch")->setChecked(false);
     ObjectStorage(f.defaults.store()).setKeyboardShortcut(KeyboardShortcut(3, 0), NextSegmentShortcut);
+    ObjectStorage(f.defaults.store()).setKeyboardShortcut(KeyboardShortcut(3, 0), ShowNextWordShortcut);
+    f.control<QCheckBox>("countCaseSwitch")->setChecked(true);
+    f.control<QComboBox>("typoWeightPopUp")->setCurrentIndex(0);
     f.language->changeLanguage("ja");
     f.posted.clear();
     f.objects.clear();
@@ -209,6 +330,8 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     EXPECT_EQ(f.posted, (QStringList{"TableBackgroundColorDidChange", "DictationTextColorDidChange",
                                      "ShowLineNumbersDidChange", "ShowAudioWaveDidChange",
                                      "ShowStatusBarDidChange", "DictationTextFontDidChange",
+                                     "CheckOptionsDidChange", "CheckOptionsDidChange",
+                                     "CheckOptionsDidChange", "CheckOptionsDidChange",
                                      "LanguageDidChangeNotification"}));
     Defaults& d = f.defaults.store();
     EXPECT_DOUBLE_EQ(d.doubleForKey(PlaySpeed), 1.0);
@@ -221,6 +344,13 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     EXPECT_EQ(f.control<QComboBox>("languagePopUpButton")->currentData().toString(), "en");
     EXPECT_EQ(ObjectStorage(d).keyboardShortcutForKey(NextSegmentShortcut), KeyboardShortcut(125, 0));
     EXPECT_EQ(f.control<ShortcutTextField>("next")->text(), "Down");
+    EXPECT_EQ(ObjectStorage(d).keyboardShortcutForKey(ShowNextWordShortcut),
+              KeyboardShortcut(4, 0x40000));
+    EXPECT_EQ(f.control<ShortcutTextField>("shownextword")->text(), "Ctrl+H");
+    EXPECT_FALSE(d.boolForKey(CountCase));
+    EXPECT_FALSE(f.control<QCheckBox>("countCaseSwitch")->isChecked());
+    EXPECT_DOUBLE_EQ(d.doubleForKey(TypoWeight), 0.5);
+    EXPECT_EQ(f.control<QComboBox>("typoWeightPopUp")->currentText(), "0.5");
 }
 
 TEST(PreferenceWindow, ResetWithoutAnEnglishItemLeavesTheLanguageAlone)

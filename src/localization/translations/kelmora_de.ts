@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>&amp;Referenztext anhängen…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>Referenztext en&amp;tfernen</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>Abschnitt &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>Nächstes W&amp;ort zeigen</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>Den Text der Lektion anhängen (.txt, .srt, .vtt oder .lrc), um Ihre Eingabe zu prüfen</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>Den aktuellen Abschnitt mit dem Referenztext vergleichen</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>Referenztexte</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>Referenztext kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>Referenztext kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>„%@“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>„%@“ ist keine .txt-, .srt-, .vtt- oder .lrc-Datei.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>„%@“ ist größer als 16 MB.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>„%@“ ist keine Textdatei.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>„%@“ ist kein UTF-8-Text.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>„%@“ ist leer.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>„%@“ beginnt nicht mit WEBVTT.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>„%@“ enthält keinen Text innerhalb der Aufnahme.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>Drücken Sie %@, um diesen Abschnitt zu prüfen.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>Nächstes Wort: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>Alle Wörter sind getippt.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>Keine Referenzwörter für diesen Abschnitt.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>Keine Fehler.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 Fehler: %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>%@ Fehler: %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>‚%@‘ statt ‚%@‘</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>‚%@‘ fehlt</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>‚%@‘ zu viel</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>Abschnitt %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>Lektion %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>Lektion %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>Geprüft: keine Fehler</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>Geprüft: nur Tippfehler</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>Geprüft: Fehler</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>Satzzeichen zählen</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>Gewicht von Tippfehlern:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>Groß-/Kleinschreibung zählen</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>Beim Tippen prüfen</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>Abschnitt prüfen</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>Nächstes Wort zeigen</translation>
+    </message>
 </context>
 </TS>

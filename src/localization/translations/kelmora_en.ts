@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 If you have any questions, email me: support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>Attach &amp;Reference Text…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>Remo&amp;ve Reference Text</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>Chec&amp;k Segment</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>Show Next &amp;Word</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Reference</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>Check the current segment against the reference text</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>Reference Texts</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>Cannot Read Reference Text</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>Cannot Store Reference Text</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>“%@” could not be read.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>“%@” is not a .txt, .srt, .vtt or .lrc file.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>“%@” is larger than 16 MB.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>“%@” is not a text file.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>“%@” is not UTF-8 text.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>“%@” is empty.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>“%@” does not start with WEBVTT.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>“%@” has no text within the recording.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>Press %@ to check this segment.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>Next word: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>Every word is typed.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>No reference words for this segment.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>No mistakes.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 mistake: %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>%@ mistakes: %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>&apos;%@&apos; should be &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>missing &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>extra &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>Segment %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>lesson %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>Lesson %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>Checked: no mistakes</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>Checked: typos only</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>Checked: mistakes</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Checking</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>Count punctuation</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>Typo weight:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>Count case</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>Check as I type</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>Check segment</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>Show next word</translation>
+    </message>
 </context>
 </TS>

@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>Adjuntar &amp;texto de referencia…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>&amp;Quitar texto de referencia</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>&amp;Comprobar segmento</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>Mostrar siguiente pa&amp;labra</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referencia</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Comprobar</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>Adjuntar el texto de la lección (.txt, .srt, .vtt o .lrc) para comprobar lo que escribes</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>Comprobar el segmento actual con el texto de referencia</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>Textos de referencia</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>No se puede leer el texto de referencia</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>No se puede guardar el texto de referencia</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>No se ha podido leer «%@».</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>«%@» no es un archivo .txt, .srt, .vtt o .lrc.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>«%@» ocupa más de 16 MB.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>«%@» no es un archivo de texto.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>«%@» no es texto UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>«%@» está vacío.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>«%@» no empieza por WEBVTT.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>«%@» no tiene texto dentro de la grabación.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>Pulsa %@ para comprobar este segmento.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>Siguiente palabra: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>Todas las palabras están escritas.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>No hay palabras de referencia para este segmento.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>Sin errores.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 error: %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>%@ errores: %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>&apos;%@&apos; debería ser &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>falta &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>sobra &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>Segmento %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>lección %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>Lección %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>Comprobado: sin errores</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>Comprobado: solo erratas</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>Comprobado: con errores</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Comprobación</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>Contar la puntuación</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>Peso de las erratas:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>Distinguir mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>Comprobar mientras escribo</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>Comprobar segmento</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>Mostrar siguiente palabra</translation>
+    </message>
 </context>
 </TS>

@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>Joindre un &amp;texte de référence…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>Retirer le te&amp;xte de référence</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>&amp;Vérifier le segment</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>Afficher le mot s&amp;uivant</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Vérifier</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>Joindre le texte de la leçon (.txt, .srt, .vtt ou .lrc) pour vérifier votre saisie</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>Vérifier le segment actuel d’après le texte de référence</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>Textes de référence</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>Impossible de lire le texte de référence</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>Impossible d’enregistrer le texte de référence</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>Impossible de lire « %@ ».</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>« %@ » n’est pas un fichier .txt, .srt, .vtt ou .lrc.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>« %@ » dépasse 16 Mo.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>« %@ » n’est pas un fichier texte.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>« %@ » n’est pas du texte UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>« %@ » est vide.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>« %@ » ne commence pas par WEBVTT.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>« %@ » ne contient aucun texte dans la durée de l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>Appuyez sur %@ pour vérifier ce segment.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>Mot suivant : %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>Tous les mots sont saisis.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>Aucun mot de référence pour ce segment.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>Aucune faute.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 faute : %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>%@ fautes : %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>« %@ » au lieu de « %@ »</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>« %@ » manquant</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>« %@ » en trop</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>Segment : %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>leçon : %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>Leçon : %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>Vérifié : aucune faute</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>Vérifié : fautes de frappe seulement</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>Vérifié : fautes</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Vérification</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>Compter la ponctuation</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>Poids des fautes de frappe :</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>Tenir compte de la casse</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>Vérifier pendant la saisie</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>Vérifier le segment</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>Afficher le mot suivant</translation>
+    </message>
 </context>
 </TS>

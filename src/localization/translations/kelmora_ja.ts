@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 ご質問がありましたら、こちらまでメールでお寄せください：support@kelmora.app。</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>参照テキストを添付(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>参照テキストを削除(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>セグメントをチェック(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>次の単語を表示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>参照</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>レッスンのテキスト (.txt、.srt、.vtt、.lrc) を添付して入力をチェック</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>現在のセグメントを参照テキストと照合</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>参照テキスト</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>参照テキストを読み込めません</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>参照テキストを保存できません</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>「%@」を読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>「%@」は .txt、.srt、.vtt、.lrc ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>「%@」は 16 MB を超えています。</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>「%@」はテキストファイルではありません。</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>「%@」は UTF-8 テキストではありません。</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>「%@」は空です。</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>「%@」が WEBVTT で始まっていません。</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>「%@」には録音の範囲内のテキストがありません。</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>%@ を押すとこのセグメントをチェックします。</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>次の単語：%@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>すべての単語を入力済みです。</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>このセグメントには参照する単語がありません。</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>間違いはありません。</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>間違い 1 件：%@。</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>間違い %@ 件：%@。</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>「%@」は正しくは「%@」</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>「%@」が抜けています</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>余分な「%@」</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>セグメント %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>レッスン %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>レッスン %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>チェック済み：間違いなし</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>チェック済み：タイプミスのみ</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>チェック済み：間違いあり</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>句読点を数える</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>タイプミスの重み：</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>大文字と小文字を区別する</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>入力しながらチェック</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>セグメントをチェック</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>次の単語を表示</translation>
+    </message>
 </context>
 </TS>

@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 궁금한 점이 있으면 이메일을 보내 주세요: support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>참조 텍스트 첨부(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>참조 텍스트 제거(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>구간 검사(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>다음 단어 보기(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>참조</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>검사</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>레슨 텍스트(.txt, .srt, .vtt, .lrc)를 첨부해 입력한 내용 검사</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>현재 구간을 참조 텍스트와 비교해 검사</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>참조 텍스트</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>참조 텍스트를 읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>참조 텍스트를 저장할 수 없음</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>“%@”을(를) 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>“%@”은(는) .txt, .srt, .vtt, .lrc 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>“%@”이(가) 16MB보다 큽니다.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>“%@”은(는) 텍스트 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>“%@”은(는) UTF-8 텍스트가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>“%@”이(가) 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>“%@”이(가) WEBVTT로 시작하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>“%@”에 녹음 범위 안의 텍스트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>%@ 키를 눌러 이 구간을 검사하세요.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>다음 단어: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>모든 단어를 입력했습니다.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>이 구간에는 참조 단어가 없습니다.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>틀린 곳이 없습니다.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>틀린 곳 1개: %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>틀린 곳 %@개: %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>&apos;%@&apos;이(가) 아니라 &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>&apos;%@&apos; 빠짐</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>불필요한 &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>구간 %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>레슨 %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>레슨 %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>검사 완료: 틀린 곳 없음</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>검사 완료: 오타만 있음</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>검사 완료: 틀린 곳 있음</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>검사</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>문장 부호 포함</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>오타 가중치:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>대소문자 구분</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>입력하는 동안 검사</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>구간 검사</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>다음 단어 보기</translation>
+    </message>
 </context>
 </TS>

@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 Если у вас есть вопросы, напишите мне: support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>&amp;Прикрепить эталонный текст…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>&amp;Удалить эталонный текст</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>Проверить се&amp;гмент</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>Показать с&amp;ледующее слово</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Эталон</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Проверить</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>Прикрепить текст урока (.txt, .srt, .vtt или .lrc) для проверки набранного</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>Проверить текущий сегмент по эталонному тексту</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>Эталонные тексты</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>Не удаётся прочитать эталонный текст</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>Не удаётся сохранить эталонный текст</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>Не удалось прочитать «%@».</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>«%@» — не файл .txt, .srt, .vtt или .lrc.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>«%@» больше 16 МБ.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>«%@» — не текстовый файл.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>«%@» — не текст в кодировке UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>Файл «%@» пуст.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>«%@» не начинается с WEBVTT.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>В «%@» нет текста в пределах записи.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>Нажмите %@, чтобы проверить этот сегмент.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>Следующее слово: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>Все слова набраны.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>Для этого сегмента нет слов эталона.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>Ошибок нет.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 ошибка: %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>Ошибок: %@ — %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>«%@» вместо «%@»</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>пропущено «%@»</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>лишнее «%@»</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>Сегмент %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>урок %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>Урок %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>Проверено: без ошибок</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>Проверено: только опечатки</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>Проверено: есть ошибки</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Проверка</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>Учитывать пунктуацию</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>Вес опечатки:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>Учитывать регистр</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>Проверять при наборе</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>Проверить сегмент</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>Показать следующее слово</translation>
+    </message>
 </context>
 </TS>

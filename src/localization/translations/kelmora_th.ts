@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 หากมีคำถามใด ๆ ส่งอีเมลถึงฉันได้ที่: support@kelmora.app</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>แนบข้อความอ้างอิง(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>เอาข้อความอ้างอิงออก(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>ตรวจช่วง(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>แสดงคำถัดไป(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>อ้างอิง</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>ตรวจ</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>แนบข้อความของบทเรียน (.txt, .srt, .vtt หรือ .lrc) เพื่อตรวจสิ่งที่คุณพิมพ์</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>ตรวจช่วงปัจจุบันเทียบกับข้อความอ้างอิง</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>ข้อความอ้างอิง</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>ไม่สามารถอ่านข้อความอ้างอิง</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>ไม่สามารถจัดเก็บข้อความอ้างอิง</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>ไม่สามารถอ่าน “%@” ได้</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>“%@” ไม่ใช่ไฟล์ .txt, .srt, .vtt หรือ .lrc</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>“%@” มีขนาดใหญ่กว่า 16 MB</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>“%@” ไม่ใช่ไฟล์ข้อความ</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>“%@” ไม่ใช่ข้อความ UTF-8</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>“%@” ว่างเปล่า</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>“%@” ไม่ได้ขึ้นต้นด้วย WEBVTT</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>“%@” ไม่มีข้อความที่อยู่ในช่วงเวลาของไฟล์เสียง</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>กด %@ เพื่อตรวจช่วงนี้</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>คำถัดไป: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>พิมพ์ครบทุกคำแล้ว</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>ไม่มีคำอ้างอิงสำหรับช่วงนี้</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>ไม่มีข้อผิดพลาด</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>ผิด 1 จุด: %@</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>ผิด %@ จุด: %@</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>&apos;%@&apos; ควรเป็น &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>ขาด &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>เกิน &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>ช่วง %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>บทเรียน %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>บทเรียน %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>ตรวจแล้ว: ไม่มีข้อผิดพลาด</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>ตรวจแล้ว: มีเพียงคำพิมพ์ผิด</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>ตรวจแล้ว: มีข้อผิดพลาด</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>การตรวจ</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>นับเครื่องหมายวรรคตอน</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>น้ำหนักของคำพิมพ์ผิด:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>นับตัวพิมพ์ใหญ่-เล็ก</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>ตรวจขณะพิมพ์</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>ตรวจช่วง</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>แสดงคำถัดไป</translation>
+    </message>
 </context>
 </TS>

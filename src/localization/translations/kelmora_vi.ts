@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora.app.</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>Đính &amp;kèm văn bản tham chiếu…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>&amp;Bỏ văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>Kiểm t&amp;ra đoạn</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>&amp;Hiện từ tiếp theo</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Tham chiếu</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Kiểm tra</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>Đính kèm văn bản của bài học (.txt, .srt, .vtt hoặc .lrc) để kiểm tra những gì bạn gõ</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>Kiểm tra đoạn hiện tại với văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>Văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>Không thể đọc văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>Không thể lưu văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>Không thể đọc “%@”.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>“%@” không phải là tệp .txt, .srt, .vtt hoặc .lrc.</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>“%@” lớn hơn 16 MB.</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>“%@” không phải là tệp văn bản.</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>“%@” không phải là văn bản UTF-8.</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>“%@” trống.</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>“%@” không bắt đầu bằng WEBVTT.</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>“%@” không có văn bản nào trong khoảng thời gian của bản ghi âm.</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>Nhấn %@ để kiểm tra đoạn này.</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>Từ tiếp theo: %@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>Đã gõ đủ mọi từ.</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>Không có từ tham chiếu cho đoạn này.</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>Không có lỗi.</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 lỗi: %@.</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>%@ lỗi: %@.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>&apos;%@&apos; phải là &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>thiếu &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>thừa &apos;%@&apos;</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>Đoạn %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>bài học %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>Bài học %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>Đã kiểm tra: không có lỗi</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>Đã kiểm tra: chỉ có lỗi gõ</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>Đã kiểm tra: có lỗi</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Kiểm tra</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>Tính dấu câu</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>Trọng số lỗi gõ:</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>Phân biệt chữ hoa, chữ thường</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>Kiểm tra khi đang gõ</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>Kiểm tra đoạn</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>Hiện từ tiếp theo</translation>
+    </message>
 </context>
 </TS>

@@ -567,5 +567,173 @@ If you have any questions, email me: support@kelmora.app.</source>
 
 如有任何问题，请发送邮件至：support@kelmora.app。</translation>
     </message>
+    <message>
+        <source>Attach &amp;Reference Text…</source>
+        <translation>附加参考文本(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Reference Text</source>
+        <translation>移除参考文本(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k Segment</source>
+        <translation>检查分段(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show Next &amp;Word</source>
+        <translation>显示下一个单词(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>参考</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Attach the lesson&apos;s text (.txt, .srt, .vtt or .lrc) to check your typing</source>
+        <translation>附加课程文本（.txt、.srt、.vtt 或 .lrc）以检查你的输入</translation>
+    </message>
+    <message>
+        <source>Check the current segment against the reference text</source>
+        <translation>将当前分段与参考文本对照检查</translation>
+    </message>
+    <message>
+        <source>Reference Texts</source>
+        <translation>参考文本</translation>
+    </message>
+    <message>
+        <source>Cannot Read Reference Text</source>
+        <translation>无法读取参考文本</translation>
+    </message>
+    <message>
+        <source>Cannot Store Reference Text</source>
+        <translation>无法存储参考文本</translation>
+    </message>
+    <message>
+        <source>“%@” could not be read.</source>
+        <translation>无法读取“%@”。</translation>
+    </message>
+    <message>
+        <source>“%@” is not a .txt, .srt, .vtt or .lrc file.</source>
+        <translation>“%@”不是 .txt、.srt、.vtt 或 .lrc 文件。</translation>
+    </message>
+    <message>
+        <source>“%@” is larger than 16 MB.</source>
+        <translation>“%@”大于 16 MB。</translation>
+    </message>
+    <message>
+        <source>“%@” is not a text file.</source>
+        <translation>“%@”不是文本文件。</translation>
+    </message>
+    <message>
+        <source>“%@” is not UTF-8 text.</source>
+        <translation>“%@”不是 UTF-8 文本。</translation>
+    </message>
+    <message>
+        <source>“%@” is empty.</source>
+        <translation>“%@”是空的。</translation>
+    </message>
+    <message>
+        <source>“%@” does not start with WEBVTT.</source>
+        <translation>“%@”不是以 WEBVTT 开头。</translation>
+    </message>
+    <message>
+        <source>“%@” has no text within the recording.</source>
+        <translation>“%@”在录音范围内没有文本。</translation>
+    </message>
+    <message>
+        <source>Press %@ to check this segment.</source>
+        <translation>按 %@ 检查此分段。</translation>
+    </message>
+    <message>
+        <source>Next word: %@</source>
+        <translation>下一个单词：%@</translation>
+    </message>
+    <message>
+        <source>Every word is typed.</source>
+        <translation>所有单词都已输入。</translation>
+    </message>
+    <message>
+        <source>No reference words for this segment.</source>
+        <translation>此分段没有参考单词。</translation>
+    </message>
+    <message>
+        <source>No mistakes.</source>
+        <translation>没有错误。</translation>
+    </message>
+    <message>
+        <source>1 mistake: %@.</source>
+        <translation>1 处错误：%@。</translation>
+    </message>
+    <message>
+        <source>%@ mistakes: %@.</source>
+        <translation>%@ 处错误：%@。</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; should be &apos;%@&apos;</source>
+        <translation>“%@”应为“%@”</translation>
+    </message>
+    <message>
+        <source>missing &apos;%@&apos;</source>
+        <translation>缺少“%@”</translation>
+    </message>
+    <message>
+        <source>extra &apos;%@&apos;</source>
+        <translation>多余的“%@”</translation>
+    </message>
+    <message>
+        <source>Segment %@</source>
+        <translation>分段 %@</translation>
+    </message>
+    <message>
+        <source>lesson %@</source>
+        <translation>课程 %@</translation>
+    </message>
+    <message>
+        <source>Lesson %@</source>
+        <translation>课程 %@</translation>
+    </message>
+    <message>
+        <source>Checked: no mistakes</source>
+        <translation>已检查：没有错误</translation>
+    </message>
+    <message>
+        <source>Checked: typos only</source>
+        <translation>已检查：只有拼写错误</translation>
+    </message>
+    <message>
+        <source>Checked: mistakes</source>
+        <translation>已检查：有错误</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Count punctuation</source>
+        <translation>计入标点</translation>
+    </message>
+    <message>
+        <source>Typo weight:</source>
+        <translation>拼写错误权重：</translation>
+    </message>
+    <message>
+        <source>Count case</source>
+        <translation>区分大小写</translation>
+    </message>
+    <message>
+        <source>Check as I type</source>
+        <translation>边输入边检查</translation>
+    </message>
+    <message>
+        <source>Check segment</source>
+        <translation>检查分段</translation>
+    </message>
+    <message>
+        <source>Show next word</source>
+        <translation>显示下一个单词</translation>
+    </message>
 </context>
 </TS>
