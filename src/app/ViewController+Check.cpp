@@ -6,17 +6,17 @@
 #include "common/Log.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "preferences/CheckPreferences.h"
 #include "preferences/Defaults.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
-#include "preferences/PreferenceKeys.h"
 #include "preferences/ShortcutBindings.h"
 #include "reference/CheckSummary.h"
 #include "views/CheckBar.h"
 #include "views/TranscriptionTableView.h"
 
+#include <QTimer>
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -110,16 +110,7 @@ QString percentText(double score)
 
 CheckOptions ViewController::checkOptions() const
 {
-    CheckOptions options;
-    options.countPunctuation = m_defaults.boolForKey(PreferenceKeys::CountPunctuation);
-    options.countCase = m_defaults.boolForKey(PreferenceKeys::CountCase);
-    // Only the three weights the preferences offer; anything else stored
-    // under the key reads as the nearest, a value of another type as 0.5.
-    bool isNumber = false;
-    const double weight = m_defaults.objectForKey(PreferenceKeys::TypoWeight).toDouble(&isNumber);
-    options.typoWeight =
-        !isNumber || std::isnan(weight) ? 0.5 : std::round(std::clamp(weight, 0.0, 1.0) * 2) / 2;
-    return options;
+    return storedCheckOptions(m_defaults);
 }
 
 const CheckResult& ViewController::checkOfRow(qint64 row, const CheckOptions& options)
@@ -217,12 +208,13 @@ void ViewController::rowTextChanged(qint64 row)
 {
     if (!m_reference)
         return;
-    if (m_defaults.boolForKey(PreferenceKeys::CheckAsIType)) {
+    if (storedCheckAsIType(m_defaults)) {
         m_checkedRows.insert(row);
+        m_table->setRowMarks(row, rowMarksFor(checkOfRow(row, checkOptions())));
+        // The bar and the lesson's score once the keys queued now are in:
+        // the row's glyph and marks come first.
         if (row == m_table->currentIndex())
-            showCheckOfRow(row);
-        else
-            m_table->setRowMarks(row, rowMarksFor(checkOfRow(row, checkOptions())));
+            m_checkBarRefresh->start();
         return;
     }
     // Marks describe the text they were made for; a changed row waits for
@@ -249,6 +241,16 @@ void ViewController::showNextWord()
     m_checkBar->setHint(next ? stringWithFormat(LocalizedString(Texts::CheckBarNextWord),
                                                 {textOf(reference, *next)})
                              : LocalizedString(Texts::CheckBarAllTyped));
+}
+
+void ViewController::checkOptionsChanged()
+{
+    if (!m_reference)
+        return;
+    const CheckOptions options = checkOptions();
+    for (const qint64 row : std::as_const(m_checkedRows))
+        m_table->setRowMarks(row, rowMarksFor(checkOfRow(row, options)));
+    showCheckBarForRow(m_table->currentIndex());
 }
 
 void ViewController::refreshCheckBarLook()

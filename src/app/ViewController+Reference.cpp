@@ -22,6 +22,7 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <QThreadPool>
+#include <QTimer>
 
 namespace {
 
@@ -59,6 +60,15 @@ void ViewController::buildCheckBar()
     connect(m_table, &TranscriptionTableView::rowTextChanged, this, &ViewController::rowTextChanged);
     connect(m_table, &TranscriptionTableView::currentRowChanged, this,
             &ViewController::showCheckBarForRow);
+    m_checkBarRefresh = new QTimer(this);
+    m_checkBarRefresh->setSingleShot(true);
+    m_checkBarRefresh->setInterval(0);
+    connect(m_checkBarRefresh, &QTimer::timeout, this, [this] {
+        if (m_reference)
+            showCheckBarForRow(m_table->currentIndex());
+    });
+    m_center.addObserver(Notifications::CheckOptionsDidChange, this,
+                         [this](const NotificationCenter::Notification&) { checkOptionsChanged(); });
     // The bar wears the table's look; the table takes a change first.
     for (const char* name : {Notifications::TableBackgroundColorDidChange,
                              Notifications::DictationTextColorDidChange,

@@ -205,6 +205,8 @@ private:
     void showCheckOfRow(qint64 row);
     void showCheckBarForRow(qint64 row);
     void refreshCheckBarLook();
+    // The checked rows and the bar again, under the options now stored.
+    void checkOptionsChanged();
 
     AudioManager& m_engine;
     NotificationCenter& m_center;
@@ -250,6 +252,7 @@ private:
     // The reference text of the lesson shown, each segment's part of it, and
     // the checks: computed on demand, shown on the rows in m_checkedRows.
     CheckBar* m_checkBar = nullptr;
+    QTimer* m_checkBarRefresh = nullptr; // one bar update for a burst of keys
     std::optional<ReferenceText> m_reference;
     QStringList m_referenceBySegment;
     struct RowCheck

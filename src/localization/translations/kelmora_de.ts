@@ -568,7 +568,7 @@ If you have any questions, email me: support@kelmora.app.</source>
 Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
+        <source>&amp;Attach Reference Text…</source>
         <translation>&amp;Referenztext anhängen…</translation>
     </message>
     <message>

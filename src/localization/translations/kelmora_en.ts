@@ -568,8 +568,8 @@ If you have any questions, email me: support@kelmora.app.</source>
 If you have any questions, email me: support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
-        <translation>Attach &amp;Reference Text…</translation>
+        <source>&amp;Attach Reference Text…</source>
+        <translation>&amp;Attach Reference Text…</translation>
     </message>
     <message>
         <source>Remo&amp;ve Reference Text</source>

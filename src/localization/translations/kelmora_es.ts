@@ -568,7 +568,7 @@ If you have any questions, email me: support@kelmora.app.</source>
 Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
+        <source>&amp;Attach Reference Text…</source>
         <translation>Adjuntar &amp;texto de referencia…</translation>
     </message>
     <message>

@@ -568,7 +568,7 @@ If you have any questions, email me: support@kelmora.app.</source>
 Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
+        <source>&amp;Attach Reference Text…</source>
         <translation>Joindre un &amp;texte de référence…</translation>
     </message>
     <message>

@@ -568,8 +568,8 @@ If you have any questions, email me: support@kelmora.app.</source>
 ご質問がありましたら、こちらまでメールでお寄せください：support@kelmora.app。</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
-        <translation>参照テキストを添付(&amp;R)…</translation>
+        <source>&amp;Attach Reference Text…</source>
+        <translation>参照テキストを添付(&amp;A)…</translation>
     </message>
     <message>
         <source>Remo&amp;ve Reference Text</source>

@@ -568,8 +568,8 @@ If you have any questions, email me: support@kelmora.app.</source>
 궁금한 점이 있으면 이메일을 보내 주세요: support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
-        <translation>참조 텍스트 첨부(&amp;R)…</translation>
+        <source>&amp;Attach Reference Text…</source>
+        <translation>참조 텍스트 첨부(&amp;A)…</translation>
     </message>
     <message>
         <source>Remo&amp;ve Reference Text</source>

@@ -568,7 +568,7 @@ If you have any questions, email me: support@kelmora.app.</source>
 Если у вас есть вопросы, напишите мне: support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
+        <source>&amp;Attach Reference Text…</source>
         <translation>&amp;Прикрепить эталонный текст…</translation>
     </message>
     <message>

@@ -568,8 +568,8 @@ If you have any questions, email me: support@kelmora.app.</source>
 หากมีคำถามใด ๆ ส่งอีเมลถึงฉันได้ที่: support@kelmora.app</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
-        <translation>แนบข้อความอ้างอิง(&amp;R)…</translation>
+        <source>&amp;Attach Reference Text…</source>
+        <translation>แนบข้อความอ้างอิง(&amp;A)…</translation>
     </message>
     <message>
         <source>Remo&amp;ve Reference Text</source>

@@ -568,7 +568,7 @@ If you have any questions, email me: support@kelmora.app.</source>
 Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora.app.</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
+        <source>&amp;Attach Reference Text…</source>
         <translation>Đính &amp;kèm văn bản tham chiếu…</translation>
     </message>
     <message>

@@ -568,8 +568,8 @@ If you have any questions, email me: support@kelmora.app.</source>
 如有任何问题，请发送邮件至：support@kelmora.app。</translation>
     </message>
     <message>
-        <source>Attach &amp;Reference Text…</source>
-        <translation>附加参考文本(&amp;R)…</translation>
+        <source>&amp;Attach Reference Text…</source>
+        <translation>附加参考文本(&amp;A)…</translation>
     </message>
     <message>
         <source>Remo&amp;ve Reference Text</source>
