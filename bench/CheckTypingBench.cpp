@@ -9,27 +9,20 @@
 // Usage: check_typing_bench
 
 #include "BenchSupport.h"
+#include "BenchWindow.h"
 #include "KeyTyping.h"
 #include "WindowBenchSupport.h"
-#include "app/AutoSaveQueue.h"
 #include "app/MainWindowController.h"
-#include "app/SessionServices.h"
 #include "app/ViewController.h"
 #include "audio/AudioManager.h"
-#include "audio/NullAudioOutput.h"
-#include "common/NotificationCenter.h"
-#include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
-#include "transcript/DocumentManager.h"
-#include "transcript/TranscriptionManager.h"
 #include "views/TranscriptionTableView.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QTemporaryDir>
 #include <cstdio>
 
 namespace {
@@ -65,20 +58,9 @@ int main(int argc, char** argv)
     const std::string file = Bench::longSpeechFile(KELMORA_BENCH_DATA, 60, "speech-60min.mp3",
                                                    "-c:a libmp3lame -b:a 128k");
 
-    QTemporaryDir dir;
-    Defaults defaults(dir.filePath(QStringLiteral("settings.ini")));
-    regDefaultPreference(defaults);
-    NotificationCenter center;
-    DocumentManager documents(dir.path());
-    AutoSaveQueue autoSave;
-    AudioManager engine(defaults, center);
-    engine.setOutputFactory(
-        [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
-    TranscriptionManager transcriptions([&engine] { return engine.getTotalDuration(); });
-    MainWindowController window(
-        SessionServices{engine, center, defaults, transcriptions, documents, autoSave});
-    window.resize(1280, 800);
-    window.show();
+    Bench::BenchWindow bench;
+    MainWindowController& window = bench.window();
+    AudioManager& engine = bench.engine();
     ViewController& session = *window.viewController();
     bool opened = false;
     session.setOpeningFinishedHandler([&](bool) { opened = true; });
@@ -94,7 +76,7 @@ int main(int argc, char** argv)
     QStringList reference;
     for (int i = 0; i < rows; ++i)
         reference << kSentences[i % kSentences.size()];
-    const QString referencePath = dir.filePath(QStringLiteral("lesson.txt"));
+    const QString referencePath = bench.filePath(QStringLiteral("lesson.txt"));
     QFile out(referencePath);
     if (!out.open(QIODevice::WriteOnly) || out.write(reference.join(u'\n').toUtf8()) < 0)
         return 1;
@@ -115,7 +97,7 @@ int main(int argc, char** argv)
     std::printf("%d rows, every one typed and with its reference\n", rows);
     Bench::typeKeys(table, 40); // warm-up: glyph caches
     Bench::reportTyping("key to glyph, check off", table);
-    defaults.setBool(true, QLatin1String(PreferenceKeys::CheckAsIType));
+    bench.defaults().setBool(true, QLatin1String(PreferenceKeys::CheckAsIType));
     Bench::typeKeys(table, 40);
     Bench::reportTyping("key to glyph, check on", table);
     return 0;

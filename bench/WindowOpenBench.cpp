@@ -10,23 +10,16 @@
 // Usage: window_open_bench [RUNS] (default 3)
 
 #include "BenchSupport.h"
+#include "BenchWindow.h"
 #include "WindowBenchSupport.h"
-#include "app/AutoSaveQueue.h"
 #include "app/MainWindowController.h"
-#include "app/SessionServices.h"
 #include "app/ViewController.h"
 #include "audio/AudioManager.h"
-#include "audio/NullAudioOutput.h"
-#include "common/NotificationCenter.h"
-#include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
-#include "transcript/DocumentManager.h"
-#include "transcript/TranscriptionManager.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -55,19 +48,9 @@ struct Opening
 
 Opening openOnce(const QString& file)
 {
-    QTemporaryDir dir;
-    Defaults defaults(dir.filePath(QStringLiteral("settings.ini")));
-    regDefaultPreference(defaults);
-    NotificationCenter center;
-    DocumentManager documents(dir.path());
-    AutoSaveQueue autoSave;
-    AudioManager engine(defaults, center);
-    engine.setOutputFactory(
-        [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
-    TranscriptionManager transcriptions([&engine] { return engine.getTotalDuration(); });
-    MainWindowController window(SessionServices{engine, center, defaults, transcriptions, documents, autoSave});
-    window.resize(1280, 800);
-    window.show();
+    Bench::BenchWindow bench;
+    MainWindowController& window = bench.window();
+    AudioManager& engine = bench.engine();
     QApplication::processEvents();
 
     Opening result;

@@ -236,11 +236,11 @@ void CustomTextField::paintEvent(QPaintEvent* event)
         // The line edit tells only where its caret is; every other position
         // is measured from there, which also follows a scrolled text.
         const QString shown = displayText();
-        const QFontMetricsF metrics(font());
+        const RowMarkPainter::TextPositions positions(shown, font());
         const qreal caretX = around.center().x() + 1;
-        const qreal caretAdvance = metrics.horizontalAdvance(shown.left(cursorPosition()));
+        const qreal caretAdvance = positions.x(cursorPosition());
         const auto xAt = [&](qsizetype position) {
-            return caretX + metrics.horizontalAdvance(shown.left(position)) - caretAdvance;
+            return caretX + positions.x(position) - caretAdvance;
         };
         RowMarkPainter::paintMarks(painter, font(), m_marks, xAt,
                                    textOrigin(rect(), font()).y(), shown.size());

@@ -8,6 +8,18 @@
 
 namespace RowMarkPainter {
 
+TextPositions::TextPositions(const QString& text, const QFont& font) : m_layout(text, font)
+{
+    m_layout.beginLayout();
+    m_line = m_layout.createLine();
+    m_layout.endLayout();
+}
+
+qreal TextPositions::x(qsizetype position) const
+{
+    return m_line.isValid() ? m_line.cursorToX(int(position)) : 0.0;
+}
+
 // Strong enough to read on the dark default background and on the light
 // field behind the text being typed.
 QColor wrongColor()

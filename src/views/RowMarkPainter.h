@@ -8,6 +8,7 @@
 #include <QPointF>
 #include <QRect>
 #include <QString>
+#include <QTextLayout>
 #include <functional>
 
 class QPainter;
@@ -15,6 +16,19 @@ class QPainter;
 // Draws a check's marks on a line of text, for the painted rows and the live
 // editor alike, so that a row looks the same with or without its editor.
 namespace RowMarkPainter {
+
+// The x of each position of a line of text, from its start: laid out once,
+// so that the marks of a long row cost one shaping, not one per mark.
+class TextPositions
+{
+public:
+    TextPositions(const QString& text, const QFont& font);
+    qreal x(qsizetype position) const;
+
+private:
+    QTextLayout m_layout;
+    QTextLine m_line;
+};
 
 QColor wrongColor();
 QColor typoColor();

@@ -84,10 +84,8 @@ void TranscriptionTableCellDelegate::paint(QPainter* painter, const QStyleOption
         if (marks) {
             // A text cut short keeps its marks up to the ellipsis.
             const qsizetype whole = shown == text ? text.size() : shown.size() - 1;
-            const QFontMetricsF metrics(m_font);
-            const auto xAt = [&](qsizetype position) {
-                return origin.x() + metrics.horizontalAdvance(text.left(position));
-            };
+            const RowMarkPainter::TextPositions positions(text, m_font);
+            const auto xAt = [&](qsizetype position) { return origin.x() + positions.x(position); };
             RowMarkPainter::paintMarks(*painter, m_font, marks->marks, xAt, origin.y(), whole);
         }
     }

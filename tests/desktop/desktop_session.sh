@@ -84,3 +84,23 @@ screenshot() {
   xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
   ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/$1.png"
 }
+
+# window_named TITLE: waits up to ten seconds for a visible window of that title.
+window_named() {
+  local id=""
+  for _ in $(seq 50); do
+    id="$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1 || true)"
+    [ -n "$id" ] && { echo "$id"; return 0; }
+    sleep 0.2
+  done
+  return 1
+}
+
+# gone TITLE: waits up to five seconds for no visible window of that title.
+gone() {
+  for _ in $(seq 25); do
+    xdotool search --onlyvisible --name "^$1\$" > /dev/null 2>&1 || return 0
+    sleep 0.2
+  done
+  return 1
+}

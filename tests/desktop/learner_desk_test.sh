@@ -32,26 +32,6 @@ export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
 
 title="$(basename "${fixture%.*}")"
 
-# window_named TITLE: waits up to ten seconds for a visible window of that title.
-window_named() {
-  local id=""
-  for _ in $(seq 50); do
-    id="$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1 || true)"
-    [ -n "$id" ] && { echo "$id"; return 0; }
-    sleep 0.2
-  done
-  return 1
-}
-
-# gone TITLE: waits up to five seconds for no visible window of that title.
-gone() {
-  for _ in $(seq 25); do
-    xdotool search --onlyvisible --name "^$1\$" > /dev/null 2>&1 || return 0
-    sleep 0.2
-  done
-  return 1
-}
-
 "$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
 app=$!
 pids+=($app)

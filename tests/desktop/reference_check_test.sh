@@ -25,17 +25,6 @@ export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
 
 title="$(basename "${fixture%.*}")"
 
-# window_named TITLE: waits up to ten seconds for a visible window of that title.
-window_named() {
-  local id=""
-  for _ in $(seq 50); do
-    id="$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1 || true)"
-    [ -n "$id" ] && { echo "$id"; return 0; }
-    sleep 0.2
-  done
-  return 1
-}
-
 # The fixture's five sentences, one line each: line i is segment i.
 reference="$work/lesson.txt"
 printf '%s\n' "Good morning, everyone." "Today we will practise listening." \
