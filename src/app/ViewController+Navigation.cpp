@@ -164,6 +164,12 @@ void ViewController::toggleRepeat(QAction* sender)
     if (isProcessing() || m_engine.numberOfSegments() == 0)
         return;
     m_waveformView->setAutoUpdatePos(!m_engine.isRepeatMode());
+    armRepeatSwitchEnd();
+    updateStatusBar();
+}
+
+void ViewController::armRepeatSwitchEnd()
+{
     // The end of the current segment, in wall-clock time at the current rate.
     const qint64 index = qBound<qint64>(0, m_currentSegmentIndex, m_engine.numberOfSegments() - 1);
     const Segment& segment = m_engine.segments()[index];
@@ -179,5 +185,4 @@ void ViewController::toggleRepeat(QAction* sender)
             QMetaObject::invokeMethod(self.data(), &ViewController::preparePlaySegment,
                                       Qt::QueuedConnection);
     });
-    updateStatusBar();
 }

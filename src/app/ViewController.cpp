@@ -7,6 +7,7 @@
 #include "app/KeyDownMonitor.h"
 #include "app/LoadingIndicator.h"
 #include "audio/AudioManager.h"
+#include "common/Clock.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
 #include "localization/LocalizedString.h"
@@ -128,6 +129,13 @@ void ViewController::buildViews()
 
 void ViewController::listenNotifications()
 {
+    // An end timed at the old rate would cut the segment short or come late.
+    m_center.addObserver(Notifications::AudioPlaybackRateDidChange, this,
+                         [this](const NotificationCenter::Notification&) {
+                             if (m_playbackTimer && m_playbackTimer->isValid() &&
+                                 m_engine.isPlaying())
+                                 armRepeatSwitchEnd();
+                         });
     m_center.addObserver(Notifications::TableBackgroundColorDidChange, this,
                          [this](const NotificationCenter::Notification& n) {
                              if (!n.object.canConvert<QColor>() ||

@@ -94,6 +94,9 @@ public:
     // Repeat each segment, or play on; the sender's icon follows (a key press
     // has none, and the toolbar item is found by its identifier).
     void toggleRepeat(QAction* sender);
+    // The repeat switch's end of segment, timed at the current rate; timed
+    // again when the rate changes while it waits.
+    void armRepeatSwitchEnd();
     void preparePlaySegment();
     void didSelectSegmentAtIndex(qint64 index) override;
     void startAutoUpdateWavePosTimer(int intervalMs);

@@ -258,8 +258,10 @@ void AudioManager::setPlaybackRate(float rate)
     const float before = m_currentRate;
     m_currentRate = std::clamp(rate, AudioPlayer::kMinRate, AudioPlayer::kMaxRate);
     m_audioPlayer->setRate(m_currentRate);
-    if (m_currentRate != before)
+    if (m_currentRate != before) {
         retimePlayTimer();
+        m_center.post(Notifications::AudioPlaybackRateDidChange, QVariant::fromValue(this));
+    }
 }
 
 void AudioManager::retimePlayTimer()

@@ -29,6 +29,9 @@ inline constexpr const char* AudioPlaybackPositionDidUpdate = "AudioPlaybackPosi
 // completion handler follows), true otherwise (the display should follow the
 // playing position). No userInfo.
 inline constexpr const char* AutoUpdateWavePosDidUpdate = "AutoUpdateWavePosDidUpdate";
+// AudioManager::setPlaybackRate, when the rate changed. Object: the engine;
+// no userInfo.
+inline constexpr const char* AudioPlaybackRateDidChange = "AudioPlaybackRateDidChange";
 // AudioManager::closeAudioFile, after AudioPlayStop. Object: the engine; no userInfo.
 inline constexpr const char* AudioFileDidClose = "AudioFileDidClose";
 

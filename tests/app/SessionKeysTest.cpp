@@ -7,6 +7,8 @@
 #include "app/ViewController.h"
 #include "app/WindowHarness.h"
 #include "audio/AudioManager.h"
+#include "common/NotificationCenter.h"
+#include "common/NotificationNames.h"
 #include "preferences/KeyboardShortcut.h"
 #include "preferences/ObjectStorage.h"
 #include "support/TestSupport.h"
@@ -203,7 +205,7 @@ TEST_F(SessionKeys, F2CutsTheFileAgainAndReloadsItsStoredTranscript)
     EXPECT_EQ(current(), 0);
 }
 
-TEST(SessionRepeat, EachSegmentPlaysThePreferredNumberOfTimesThenTheNextStarts)
+TEST(SessionRepeat, EachSegmentPlaysThePreferredNumberOfTimesAtTheRateSetWhileItRepeats)
 {
     VirtualClock clock;
     WindowHarness h;
@@ -220,6 +222,18 @@ TEST(SessionRepeat, EachSegmentPlaysThePreferredNumberOfTimesThenTheNextStarts)
 
     const Segment first = h.engine().segments()[0];
     const double nextStart = h.engine().segments()[1].start;
+    // Half the rate once the repeat switch has timed the segment's end: that
+    // end is timed again, so the first play is not cut short where it would
+    // have ended at the old rate.
+    int starts = 0;
+    QObject counter;
+    h.center().addObserver(Notifications::AudioPlaying, &counter,
+                           [&](const NotificationCenter::Notification&) { ++starts; });
+    h.engine().setPlaybackRate(0.5f);
+    clock.advance(1.5 * first.duration);
+    QTest::qWait(20);
+    EXPECT_EQ(starts, 0) << "the first play was cut short and started again";
+    h.center().removeObserver(&counter);
     int plays = 1;
     // Each pass: the end of the segment, the main thread's turn, and so on. A
     // segment's time counts from when the (real-time) null output first takes
