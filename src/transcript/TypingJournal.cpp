@@ -2,6 +2,7 @@
 #include "TypingJournal.h"
 
 #include "JournalFormat.h"
+#include "JournalSyncer.h"
 #include "common/Log.h"
 
 #include <QDir>
@@ -182,16 +183,19 @@ TypingJournal::Applied TypingJournal::apply(const QList<Record>& records, QStrin
     return result;
 }
 
-TypingJournal::TypingJournal(const QString& path, Now now)
+TypingJournal::TypingJournal(const QString& path, Now now, Syncing syncing)
     : m_path(path), m_now(now ? std::move(now) : Now(&std::chrono::steady_clock::now))
 {
+    if (syncing == Syncing::OnWriterThread)
+        m_syncer = std::make_unique<JournalSyncer>();
     open();
 }
 
 TypingJournal::~TypingJournal()
 {
+    collectSyncError();
     if (m_state == State::Writing && m_unsynced)
-        syncNow();
+        syncNow(true);
     closeFile();
 }
 
@@ -290,7 +294,7 @@ quint64 TypingJournal::append(int row, const QString& text)
     }
     const quint64 sequence = ++m_lastSequence;
     m_rows[row] = {sequence, text};
-    if (m_state != State::Writing)
+    if (!collectSyncError())
         return sequence;
     const QByteArray utf8 = text.toUtf8();
     if (utf8.size() > JournalFormat::kMaxTextBytes) {
@@ -323,15 +327,16 @@ bool TypingJournal::appendBytes(const QByteArray& bytes)
 
 bool TypingJournal::syncIfDue()
 {
-    if (m_state != State::Writing || !m_unsynced)
+    if (!collectSyncError() || !m_unsynced)
         return false;
     if (m_lastSync && m_now() - *m_lastSync < kSyncInterval)
         return false;
-    return syncNow();
+    return syncNow(false);
 }
 
 bool TypingJournal::sync()
 {
+    collectSyncError();
     switch (m_state) {
     case State::Refused:
         return false;
@@ -340,14 +345,25 @@ bool TypingJournal::sync()
     case State::Writing:
         break;
     }
-    if (m_unsynced && !syncNow())
+    if (m_unsynced && !syncNow(false))
         return false;
     return m_size <= kCompactionBytes || rewrite();
 }
 
-bool TypingJournal::syncNow()
+bool TypingJournal::collectSyncError()
 {
-    if (retryInterrupted([&] { return ::fdatasync(m_fd); }) != 0) {
+    if (m_syncer) {
+        if (const int error = m_syncer->takeError())
+            fail(State::Failing, QStringLiteral("could not be synced"), error);
+    }
+    return m_state == State::Writing;
+}
+
+bool TypingJournal::syncNow(bool wait)
+{
+    if (m_syncer && !wait) {
+        m_syncer->request(m_fd);
+    } else if (retryInterrupted([&] { return ::fdatasync(m_fd); }) != 0) {
         fail(State::Failing, QStringLiteral("could not be synced"), errno);
         return false;
     }
@@ -363,6 +379,7 @@ bool TypingJournal::syncNow()
 
 bool TypingJournal::dropThrough(quint64 sequence)
 {
+    collectSyncError();
     sequence = std::min(sequence, m_lastSequence);
     const qsizetype before = m_rows.size();
     m_rows.removeIf([&](const auto& entry) { return entry.value().sequence <= sequence; });
@@ -464,6 +481,8 @@ void TypingJournal::recovered(const QString& how)
 
 void TypingJournal::closeFile()
 {
+    if (m_syncer)
+        m_syncer->waitIdle(); // it may be syncing this fd
     if (m_fd >= 0)
         ::close(m_fd);
     m_fd = -1;

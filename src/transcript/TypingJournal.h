@@ -7,7 +7,10 @@
 #include <QStringList>
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
+
+class JournalSyncer;
 
 // One lesson's typing journal: every change of a row's text is appended at
 // once, so that what was typed since the last save survives a crash, a kill
@@ -27,6 +30,12 @@
 // in memory. After a failed write the next sync() tries to rewrite the whole
 // journal from memory and, when that works, carries on appending. A file that
 // is not a Kelmora journal, or that cannot be read, is never written.
+//
+// A sync takes milliseconds on a real disk, too long for a key press (see
+// journal_bench): by default fdatasync runs on a thread of the journal's own,
+// syncIfDue() and sync() hand it over and return, and a failure shows at the
+// next call. The write itself stays on the caller's thread; it takes
+// microseconds. Destruction waits for the last sync.
 //
 // Not thread-safe: used from one thread.
 class TypingJournal
@@ -70,6 +79,8 @@ public:
         int pastEnd = 0; // records for rows the list does not have
     };
 
+    enum class Syncing { OnWriterThread, OnCallingThread };
+
     enum class State {
         Writing, // records reach the file
         Failing, // a write failed; rows are kept in memory until a rewrite works
@@ -90,7 +101,8 @@ public:
     // Opens (and replays) the journal at `path`. The file and its folder are
     // made at the first append. `now` is the clock the sync interval is
     // measured on; the steady clock when empty.
-    explicit TypingJournal(const QString& path, Now now = {});
+    explicit TypingJournal(const QString& path, Now now = {},
+                           Syncing syncing = Syncing::OnWriterThread);
     // Syncs what is unsynced.
     ~TypingJournal();
     TypingJournal(const TypingJournal&) = delete;
@@ -135,7 +147,8 @@ private:
     bool create();
     bool appendBytes(const QByteArray& bytes);
     bool rewrite();
-    bool syncNow();
+    bool syncNow(bool wait);
+    bool collectSyncError();
     void fail(State state, const QString& what, int error);
     void fail(State state, const QString& what, const QString& why);
     void recovered(const QString& how);
@@ -143,6 +156,7 @@ private:
 
     QString m_path;
     Now m_now;
+    std::unique_ptr<JournalSyncer> m_syncer;
     Replay m_recovered;
     int m_fd = -1;
     State m_state = State::Writing;

@@ -7,6 +7,7 @@
 #include "transcript/TypingJournal.h"
 
 #include <QDir>
+#include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -192,21 +193,30 @@ TEST_F(TypingJournalTest, AJournalOverTheLimitIsRewrittenAsOneRecordPerRowWithNo
 
 TEST_F(TypingJournalTest, SyncsAtMostOnceASecondWhileRecordsAreUnsynced)
 {
-    FakeClock clock;
-    TypingJournal journal(path(), clock.now());
-    EXPECT_FALSE(journal.syncIfDue()); // nothing to sync
-    journal.append(0, "a");
-    EXPECT_TRUE(journal.syncIfDue());
-    journal.append(0, "ab");
-    clock.time += std::chrono::milliseconds(999);
-    EXPECT_FALSE(journal.syncIfDue());
-    EXPECT_TRUE(journal.hasUnsyncedRecords());
-    clock.time += std::chrono::milliseconds(1);
-    EXPECT_TRUE(journal.syncIfDue());
-    EXPECT_FALSE(journal.syncIfDue());
-    journal.append(0, "abc");
-    EXPECT_TRUE(journal.sync()); // a row change does not wait
-    EXPECT_FALSE(journal.hasUnsyncedRecords());
+    for (const auto syncing :
+         {TypingJournal::Syncing::OnCallingThread, TypingJournal::Syncing::OnWriterThread}) {
+        SCOPED_TRACE(int(syncing));
+        QFile::remove(path());
+        FakeClock clock;
+        {
+            TypingJournal journal(path(), clock.now(), syncing);
+            EXPECT_FALSE(journal.syncIfDue()); // nothing to sync
+            journal.append(0, "a");
+            EXPECT_TRUE(journal.syncIfDue());
+            journal.append(0, "ab");
+            clock.time += std::chrono::milliseconds(999);
+            EXPECT_FALSE(journal.syncIfDue());
+            EXPECT_TRUE(journal.hasUnsyncedRecords());
+            clock.time += std::chrono::milliseconds(1);
+            EXPECT_TRUE(journal.syncIfDue());
+            EXPECT_FALSE(journal.syncIfDue());
+            journal.append(0, "abc");
+            EXPECT_TRUE(journal.sync()); // a row change does not wait
+            EXPECT_FALSE(journal.hasUnsyncedRecords());
+            EXPECT_EQ(journal.state(), TypingJournal::State::Writing);
+        }
+        EXPECT_EQ(TypingJournal::replay(path()).records.size(), 3);
+    }
 }
 
 TEST_F(TypingJournalTest, AFileThatIsNotAJournalIsNeverWritten)
