@@ -17,14 +17,16 @@
 
 namespace Bench {
 
-// A main window of its own, shown at 1280x800: fresh settings and documents
-// in a temporary folder, an engine playing into a silent output that keeps
+// A main window of its own, shown at 1280x800: fresh settings, documents and
+// per-user data in a temporary folder, an engine playing into a silent output that keeps
 // real time.
 class BenchWindow
 {
 public:
     BenchWindow()
     {
+        // The typing journals of a run go with its folder.
+        qputenv("XDG_DATA_HOME", m_dir.path().toLocal8Bit());
         m_engine.setOutputFactory(
             [] { return std::make_unique<NullAudioOutput>(NullAudioOutput::Clocking::RealTime); });
         m_window = std::make_unique<MainWindowController>(SessionServices{

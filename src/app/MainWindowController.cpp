@@ -353,6 +353,7 @@ void MainWindowController::toolbarItemRepeat()
 
 void MainWindowController::cleanupAndClose()
 {
+    m_viewController->syncJournal();
     m_engine.stopPlayback();
     m_engine.closeAudioFile();
 }

@@ -94,6 +94,7 @@ void ViewController::didSelectSegmentAtIndex(qint64 index)
         stopAutoUpdateWavePos();
         playSegement(index);
     }
+    syncJournal();
     autoSaveTranscription();
 }
 

@@ -88,7 +88,14 @@ void ViewController::autoSaveTranscription(bool now)
     snapshot.starts.reserve(texts.size());
     for (qsizetype i = 0; i < texts.size(); ++i)
         snapshot.starts.append(i < segments.size() ? segments[i].start : 0.0);
-    m_autoSave.enqueue(std::move(snapshot));
+    // The journal's records up to the snapshot go once it is on disk.
+    QPointer<ViewController> self(this);
+    m_autoSave.enqueue(std::move(snapshot), [self, journal = journalPath(),
+                                             sequence = journalSequence()](bool saved,
+                                                                           const QString&) {
+        if (saved && self)
+            self->journalSaved(journal, sequence);
+    });
 }
 
 bool ViewController::saveTranscriptionToSandbox()
@@ -117,10 +124,11 @@ void ViewController::saveTranscriptionWithCompletion(const std::function<void(bo
             completion(false);
             return;
         }
+        const quint64 sequence = journalSequence();
         stageTranscriptions(m_transcriptions);
         const bool saved = m_transcriptions.saveTranscriptionsToFile(path);
-        if (saved)
-            saveTranscriptionToSandbox();
+        if (saved && saveTranscriptionToSandbox())
+            journalSaved(journalPath(), sequence);
         else
             Dialogs::showMsg(LocalizedString(Texts::SaveError),
                              LocalizedString(Texts::ErrorWritingToFile));
@@ -143,10 +151,12 @@ void ViewController::exportTranscriptionTo(const QString& path)
 {
     if (path.isEmpty())
         return;
+    const quint64 sequence = journalSequence();
     stageTranscriptions(m_transcriptions);
-    if (m_transcriptions.saveTranscriptionsToFile(path))
-        saveTranscriptionToSandbox();
-    else
+    if (m_transcriptions.saveTranscriptionsToFile(path)) {
+        if (saveTranscriptionToSandbox())
+            journalSaved(journalPath(), sequence);
+    } else
         Dialogs::showMsg(LocalizedString(Texts::SaveError),
                          LocalizedString(Texts::ErrorWritingToFile));
 }
@@ -189,8 +199,10 @@ void ViewController::importTranscriptionFrom(const QString& path)
     const double end = segments.isEmpty() ? 0.0 : segments.last().start + segments.last().duration;
     if (m_engine.getTotalDuration() >= end) {
         // Rows and boundaries change together or not at all.
-        if (m_engine.updateSegments(segments))
+        if (m_engine.updateSegments(segments)) {
             m_table->updateTranscriptions(texts);
+            journalAllRows();
+        }
     } else {
         showError(LocalizedString(Texts::InvalidFile),
                   LocalizedString(Texts::LyricDurationTooLong));
@@ -213,6 +225,7 @@ void ViewController::clearTranscription()
                                     // The table's report of row 0 that follows starts the usual
                                     // save.
                                     session->initEmptyTranscriptions();
+                                    session->journalAllRows();
                                     session->playFirstSegment();
                                 });
 }

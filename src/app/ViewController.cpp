@@ -15,6 +15,7 @@
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/PreferenceKeys.h"
+#include "transcript/TypingJournal.h"
 #include "views/CheckBar.h"
 #include "views/TranscriptionTableView.h"
 #include "views/WaveformView.h"
@@ -120,6 +121,7 @@ void ViewController::buildViews()
 
     m_loadingIndicator = new LoadingIndicator(this);
     buildCheckBar();
+    buildJournal();
 
     m_autoUpdateWavePosTimer = new QTimer(this);
     m_progressTimer = new QTimer(this);

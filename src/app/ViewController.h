@@ -33,6 +33,7 @@ class QTimer;
 class DocumentManager;
 class TranscriptionManager;
 class TranscriptionTableView;
+class TypingJournal;
 class WaveformView;
 
 // The main window's content and the session: it owns the table, the waveform
@@ -141,6 +142,10 @@ public:
     // Shows the reference word after the last one typed right.
     void showNextWord();
 
+    // ---- Typing journal (ViewController+Journal.cpp) ----
+    // Commits what the journal holds to the disk now (row changes, quit).
+    void syncJournal();
+
     // ---- Status bar and title (ViewController+StatusBar.cpp) ----
     void updateStatusBar();
     void changeWindowTitle(const QString& title);
@@ -198,6 +203,18 @@ private:
     void referenceFileRead(const QString& path, const QString& audioPath,
                            const std::optional<ReferenceText>& reference,
                            const ReferenceReadError& error);
+
+    // Typing journal (ViewController+Journal.cpp)
+    void buildJournal();
+    // The journal of the lesson just loaded: opened, and its records applied
+    // over the rows the store gave.
+    void openLessonJournal();
+    void closeLessonJournal();
+    void journalAllRows();
+    quint64 journalSequence() const;
+    QString journalPath() const;
+    // A save of the rows as they were at `sequence` of that journal succeeded.
+    void journalSaved(const QString& journalPath, quint64 sequence);
 
     // The check (ViewController+Check.cpp)
     CheckOptions checkOptions() const;
@@ -269,4 +286,9 @@ private:
     QSet<qint64> m_checkedRows;
     QHash<qint64, int> m_hints;
     quint64 m_referenceReads = 0; // drops a read that a newer one overtook
+
+    // The typing journal of the lesson shown.
+    std::unique_ptr<TypingJournal> m_journal;
+    QTimer* m_journalSyncTimer = nullptr;
+    bool m_replayingJournal = false;
 };

@@ -450,3 +450,16 @@ inline constexpr std::array ReferenceCheck = {
     PrefCheckAsIType, ShortcutCheck, ShortcutShowNextWord};
 
 } // namespace Texts
+
+// The typing journal: the status bar's word after typing came back, and when
+// the journal cannot be written.
+namespace Texts {
+
+inline constexpr const char* RecoveredTyping =
+    QT_TRANSLATE_NOOP("Localizable", "Recovered typing from your last session");
+inline constexpr const char* JournalFailed = QT_TRANSLATE_NOOP(
+    "Localizable", "Typing since the last save is not protected: the journal cannot be written");
+
+inline constexpr std::array Journal = {RecoveredTyping, JournalFailed};
+
+} // namespace Texts

@@ -27,8 +27,11 @@
 #include <QPointer>
 #include <QTimer>
 
-WindowHarness::WindowHarness(const QString& language)
+WindowHarness::WindowHarness(const QString& language, const QString& dataHome)
 {
+    // Per-user state (the typing journals) of this window alone, unless a test
+    // hands the same folder to windows that stand for successive launches.
+    qputenv("XDG_DATA_HOME", (dataHome.isEmpty() ? m_dataHome.path() : dataHome).toLocal8Bit());
     QFont::insertSubstitution(QStringLiteral("Menlo"),
                               QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).family());
     regDefaultPreference(m_defaults.store());

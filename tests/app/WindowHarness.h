@@ -30,7 +30,8 @@ class WindowHarness
 {
 public:
     // With a language code the window is built in that language.
-    explicit WindowHarness(const QString& language = QString());
+    // `dataHome` is the per-user data folder (a fresh one when empty).
+    explicit WindowHarness(const QString& language = QString(), const QString& dataHome = QString());
     ~WindowHarness();
 
     MainWindowController& window() { return *m_window; }
@@ -60,6 +61,7 @@ public:
     QImage screenshot(const QString& name);
 
 private:
+    QTemporaryDir m_dataHome;
     TestSupport::TempDefaults m_defaults;
     QTemporaryDir m_documentsDir;
     std::unique_ptr<NotificationCenter> m_center;

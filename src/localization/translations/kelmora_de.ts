@@ -735,5 +735,13 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Show next word</source>
         <translation>Nächstes Wort zeigen</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>Eingaben aus der letzten Sitzung wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>Eingaben seit dem letzten Speichern sind nicht gesichert: Das Journal kann nicht geschrieben werden</translation>
+    </message>
 </context>
 </TS>

@@ -735,5 +735,13 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Show next word</source>
         <translation>Show next word</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>Recovered typing from your last session</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>Typing since the last save is not protected: the journal cannot be written</translation>
+    </message>
 </context>
 </TS>

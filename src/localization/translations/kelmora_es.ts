@@ -735,5 +735,13 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Show next word</source>
         <translation>Mostrar siguiente palabra</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>Se ha recuperado lo escrito en la última sesión</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>Lo escrito desde el último guardado no está protegido: no se puede escribir el diario</translation>
+    </message>
 </context>
 </TS>

@@ -735,5 +735,13 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Show next word</source>
         <translation>Afficher le mot suivant</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>Saisie de la dernière session récupérée</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>La saisie depuis le dernier enregistrement n’est pas protégée : le journal ne peut pas être écrit</translation>
+    </message>
 </context>
 </TS>

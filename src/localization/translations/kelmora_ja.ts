@@ -735,5 +735,13 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Show next word</source>
         <translation>次の単語を表示</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>前回のセッションの入力を復元しました</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>前回の保存以降の入力は保護されていません：ジャーナルに書き込めません</translation>
+    </message>
 </context>
 </TS>

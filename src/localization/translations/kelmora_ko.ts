@@ -735,5 +735,13 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Show next word</source>
         <translation>다음 단어 보기</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>지난 세션의 입력을 복구했습니다</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>마지막 저장 이후의 입력이 보호되지 않습니다: 저널을 쓸 수 없습니다</translation>
+    </message>
 </context>
 </TS>

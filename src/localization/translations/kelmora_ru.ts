@@ -735,5 +735,13 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Show next word</source>
         <translation>Показать следующее слово</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>Восстановлен текст, набранный в прошлый раз</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>Текст, набранный после последнего сохранения, не защищён: журнал не удаётся записать</translation>
+    </message>
 </context>
 </TS>

@@ -735,5 +735,13 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Show next word</source>
         <translation>แสดงคำถัดไป</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>กู้คืนข้อความที่พิมพ์จากครั้งก่อนแล้ว</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>ข้อความที่พิมพ์หลังการบันทึกครั้งล่าสุดไม่ได้รับการป้องกัน: ไม่สามารถเขียนบันทึกการพิมพ์ได้</translation>
+    </message>
 </context>
 </TS>

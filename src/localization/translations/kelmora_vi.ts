@@ -735,5 +735,13 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Show next word</source>
         <translation>Hiện từ tiếp theo</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>Đã khôi phục nội dung gõ từ phiên trước</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>Nội dung gõ từ lần lưu gần nhất chưa được bảo vệ: không thể ghi nhật ký</translation>
+    </message>
 </context>
 </TS>

@@ -735,5 +735,13 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Show next word</source>
         <translation>显示下一个单词</translation>
     </message>
+    <message>
+        <source>Recovered typing from your last session</source>
+        <translation>已恢复上次会话中输入的内容</translation>
+    </message>
+    <message>
+        <source>Typing since the last save is not protected: the journal cannot be written</source>
+        <translation>自上次保存以来的输入未受保护：无法写入日志</translation>
+    </message>
 </context>
 </TS>
