@@ -138,9 +138,8 @@ void MainWindowController::setupMenus()
          &MainWindowController::toolbarItemImportFromMusicLibrary);
     needsLesson(item(file, "menuAttachReference", Texts::MenuAttachReference,
                      [this] { m_viewController->attachReferenceText(); }));
-    m_removeReference = item(file, "menuRemoveReference", Texts::MenuRemoveReference,
-                             [this] { m_viewController->removeReferenceText(); });
-    m_referenceCommands.append(m_removeReference);
+    m_referenceCommands.append(item(file, "menuRemoveReference", Texts::MenuRemoveReference,
+                                    [this] { m_viewController->removeReferenceText(); }));
     QAction* save = item(file, "menuExport", Texts::MenuExport,
                          [this] { m_viewController->saveTranscription(); });
     save->setShortcut(QKeySequence::Save);

@@ -97,6 +97,5 @@ private:
     QList<QAction*> m_lessonCommands;
     QList<QAction*> m_referenceCommands;
     QPointer<QAction> m_checkButton;
-    QPointer<QAction> m_removeReference;
     bool m_closeConfirmed = false;
 };
