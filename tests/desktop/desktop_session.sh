@@ -5,6 +5,12 @@
 # work, pids, probe, until_equal, fail, start_sound, start_window_manager and screenshot;
 # cleans up on exit.
 
+# A test that has not started its own D-Bus session runs again inside one.
+if [ -z "${KELMORA_IN_SESSION:-}" ]; then
+  export KELMORA_IN_SESSION=1
+  exec dbus-run-session -- "$0" "$@"
+fi
+
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
 
@@ -103,4 +109,13 @@ gone() {
     sleep 0.2
   done
   return 1
+}
+
+# start_desktop: the sound server, the window manager, and Kelmora's
+# environment for a real window read over the accessibility bus.
+start_desktop() {
+  start_sound
+  start_window_manager
+  export LANG=C.UTF-8 LANGUAGE=
+  export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
 }

@@ -15,20 +15,12 @@
 # Usage: learner_desk_test.sh KELMORA KELMORA_CLI FIXTURE SCREENSHOT_DIR
 set -euo pipefail
 
-if [ -z "${KELMORA_IN_SESSION:-}" ]; then
-  export KELMORA_IN_SESSION=1
-  exec dbus-run-session -- "$0" "$@"
-fi
-
 kelmora="$1"
 cli="$2"
 fixture="$3"
 shots="$4"
 source "$(dirname "$0")/desktop_session.sh"
-start_sound
-start_window_manager
-export LANG=C.UTF-8 LANGUAGE=
-export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+start_desktop
 
 title="$(basename "${fixture%.*}")"
 

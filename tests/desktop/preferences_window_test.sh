@@ -10,11 +10,6 @@
 # Usage: preferences_window_test.sh KELMORA SCREENSHOT_DIR
 set -euo pipefail
 
-if [ -z "${KELMORA_IN_SESSION:-}" ]; then
-  export KELMORA_IN_SESSION=1
-  exec dbus-run-session -- "$0" "$@"
-fi
-
 kelmora="$1"
 shots="$2"
 source "$(dirname "$0")/desktop_session.sh"

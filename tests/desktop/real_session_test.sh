@@ -11,11 +11,6 @@
 # Usage: real_session_test.sh KELMORA FIXTURE SCREENSHOT_DIR
 set -euo pipefail
 
-if [ -z "${KELMORA_IN_SESSION:-}" ]; then
-  export KELMORA_IN_SESSION=1
-  exec dbus-run-session -- "$0" "$@"
-fi
-
 kelmora="$1"
 fixture="$2"
 shots="$3"

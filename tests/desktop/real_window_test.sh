@@ -10,11 +10,6 @@
 # The script re-runs itself inside a private D-Bus session.
 set -euo pipefail
 
-if [ -z "${KELMORA_IN_SESSION:-}" ]; then
-  export KELMORA_IN_SESSION=1
-  exec dbus-run-session -- "$0" "$@"
-fi
-
 kelmora="$1"
 fixture="$2"
 shots="$3"

@@ -9,19 +9,11 @@
 # Usage: reference_check_test.sh KELMORA FIXTURE SCREENSHOT_DIR
 set -euo pipefail
 
-if [ -z "${KELMORA_IN_SESSION:-}" ]; then
-  export KELMORA_IN_SESSION=1
-  exec dbus-run-session -- "$0" "$@"
-fi
-
 kelmora="$1"
 fixture="$2"
 shots="$3"
 source "$(dirname "$0")/desktop_session.sh"
-start_sound
-start_window_manager
-export LANG=C.UTF-8 LANGUAGE=
-export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+start_desktop
 
 title="$(basename "${fixture%.*}")"
 
