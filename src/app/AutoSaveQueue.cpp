@@ -9,11 +9,8 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
+#include <QDir>
 #include <QThreadPool>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <exception>
 
 namespace {
@@ -112,19 +109,17 @@ bool AutoSaveQueue::save(const Snapshot& snapshot, QString* identifierOut)
         return false;
     const QString storePath =
         QStringLiteral("%1/%2").arg(snapshot.transcriptionsFolder, *identifier);
-    const QString tempPath = storePath + QStringLiteral(".temp");
 
-    // A staging list of this job's own: the main thread's saves use theirs.
-    TranscriptionManager staging([] { return 0.0; });
-    staging.setTranscriptions(linesForSnapshot(snapshot));
-    if (!staging.saveTranscriptionsToFile(tempPath))
-        return false;
-    // rename() puts the new file in the old one's place in one step, so a
-    // crash at any moment leaves either the old transcript or the new one.
-    if (std::rename(QFile::encodeName(tempPath).constData(),
-                    QFile::encodeName(storePath).constData()) != 0) {
-        qCInfo(lcApp, "Failed to replace file: %s", std::strerror(errno));
+    // A folder deleted while the lesson was open comes back with this save.
+    if (!QDir().mkpath(snapshot.transcriptionsFolder)) {
+        qCInfo(lcApp, "Failed to create folder: %s", qUtf8Printable(snapshot.transcriptionsFolder));
         return false;
     }
-    return true;
+    // A staging list of this job's own: the main thread's saves use theirs.
+    // The manager writes beside the store file and renames over it, so a
+    // crash or a full disk at any moment leaves either the old transcript or
+    // the new one.
+    TranscriptionManager staging([] { return 0.0; });
+    staging.setTranscriptions(linesForSnapshot(snapshot));
+    return staging.saveTranscriptionsToFile(storePath);
 }

@@ -52,8 +52,9 @@ public:
     void waitForDone();
     double lastAutoSaveTime() const { return m_lastAutoSaveTime; }
 
-    // The job itself, on the calling thread: the lines into "<store>.temp",
-    // then that file renamed over the store file. Returns success; the
+    // The job itself, on the calling thread: the store folder made again if it
+    // went, then the lines written durably over the store file. Returns
+    // whether they reached the disk; the
     // identity is the store file's name (empty when the audio file cannot be
     // examined).
     static bool save(const Snapshot& snapshot, QString* identifier = nullptr);

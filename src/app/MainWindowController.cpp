@@ -98,7 +98,8 @@ void MainWindowController::setupToolbar()
     connect(music, &QAction::triggered, this,
             &MainWindowController::toolbarItemImportFromMusicLibrary);
 
-    QAction* reference = add("reference", "reference", Texts::ToolbarReference, Texts::TipReference);
+    QAction* reference =
+        add("reference", "reference", Texts::ToolbarReference, Texts::TipReference);
     connect(reference, &QAction::triggered, this,
             [this] { m_viewController->attachReferenceText(); });
     needsLesson(reference);
@@ -402,7 +403,10 @@ void MainWindowController::closeEvent(QCloseEvent* event)
     box->setIcon(QMessageBox::Question);
     box->setWindowTitle(LocalizedString(Texts::SaveDictationTitle));
     box->setText(LocalizedString(Texts::SaveDictationTitle));
-    box->setInformativeText(LocalizedString(Texts::SaveDictationMessage));
+    QString informative = LocalizedString(Texts::SaveDictationMessage);
+    if (m_viewController->lastSaveFailed())
+        informative += QStringLiteral("\n\n") + LocalizedString(Texts::LastSaveFailed);
+    box->setInformativeText(informative);
     box->setObjectName(QStringLiteral("saveDictationPrompt"));
     // One role for all three keeps them in this order on every desktop style.
     QPushButton* save = box->addButton(LocalizedString(Texts::Save), QMessageBox::ActionRole);

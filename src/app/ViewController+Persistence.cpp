@@ -19,6 +19,7 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <QStringList>
 
 QString ViewController::transcriptionStorePath() const
@@ -33,8 +34,16 @@ QString ViewController::transcriptionStorePath() const
 void ViewController::initTranscription()
 {
     const QString path = transcriptionStorePath();
+    m_storeRefused = false;
     if (path.isEmpty() || !m_transcriptions.loadTranscriptionsFromFile(path)) {
         qCInfo(lcApp, "Failed to load transcription");
+        using Fault = TranscriptionManager::LoadFault;
+        const Fault fault = m_transcriptions.lastLoadFault();
+        if (!path.isEmpty() && (fault == Fault::TooLarge || fault == Fault::NotARegularFile)) {
+            m_storeRefused = true;
+            qCWarning(lcApp, "Transcription store file refused, kept and not saved over: %s",
+                      qUtf8Printable(m_transcriptions.lastError()));
+        }
         initEmptyTranscriptions();
         return;
     }
@@ -77,6 +86,11 @@ void ViewController::autoSaveTranscription(bool now)
     const QStringList& texts = m_table->mutableTranscriptions();
     if (texts.isEmpty() || m_currentAudioPath.isEmpty())
         return;
+    if (m_storeRefused) {
+        qCInfo(lcApp, "Auto save skipped: the store file was not loaded");
+        storeSaveFinished(false);
+        return;
+    }
     // The job gets copies: it must not read the table or the engine, which
     // this thread goes on changing.
     AutoSaveQueue::Snapshot snapshot;
@@ -90,12 +104,29 @@ void ViewController::autoSaveTranscription(bool now)
         snapshot.starts.append(i < segments.size() ? segments[i].start : 0.0);
     // The journal's records up to the snapshot go once it is on disk.
     QPointer<ViewController> self(this);
-    m_autoSave.enqueue(std::move(snapshot), [self, journal = journalPath(),
-                                             sequence = journalSequence()](bool saved,
-                                                                           const QString&) {
-        if (saved && self)
-            self->journalSaved(journal, sequence);
-    });
+    m_autoSave.enqueue(
+        std::move(snapshot),
+        [self, journal = journalPath(), sequence = journalSequence()](bool saved, const QString&) {
+            if (!self)
+                return;
+            if (saved)
+                self->journalSaved(journal, sequence);
+            self->storeSaveFinished(saved);
+        });
+}
+
+void ViewController::storeSaveFinished(bool saved)
+{
+    const QString notice = LocalizedString(Texts::SaveFailedNotice);
+    if (!saved) {
+        m_lastSaveFailed = true;
+        m_statusBar->showMessage(notice);
+        return;
+    }
+    m_lastSaveFailed = false;
+    // Another message (the journal's, say) is left alone.
+    if (m_statusBar->currentMessage() == notice)
+        m_statusBar->clearMessage();
 }
 
 bool ViewController::saveTranscriptionToSandbox()
@@ -108,7 +139,13 @@ bool ViewController::saveTranscriptionToSandbox()
     const QString path = FileIdentity::transcriptionPathForIdentifier(*identifier, m_documents);
     if (path.isEmpty())
         return false;
-    return m_transcriptions.saveTranscriptionsToFile(path);
+    bool saved = false;
+    if (m_storeRefused)
+        qCInfo(lcApp, "Store save skipped: the store file was not loaded");
+    else if (QDir().mkpath(QFileInfo(path).path())) // the folder may have been deleted
+        saved = m_transcriptions.saveTranscriptionsToFile(path);
+    storeSaveFinished(saved);
+    return saved;
 }
 
 void ViewController::saveTranscriptionWithCompletion(const std::function<void(bool)>& completion)
@@ -189,8 +226,12 @@ void ViewController::importTranscriptionFrom(const QString& path)
 {
     qCInfo(lcApp, "Selected file: %s", qUtf8Printable(path));
     if (!m_transcriptions.loadTranscriptionsFromFile(path)) {
-        Dialogs::showModalAlert(LocalizedString(Texts::Error),
-                                LocalizedString(Texts::FailedToLoadTranscription),
+        using Fault = TranscriptionManager::LoadFault;
+        const Fault fault = m_transcriptions.lastLoadFault();
+        const char* message = fault == Fault::TooLarge          ? Texts::TranscriptTooLarge
+                              : fault == Fault::NotARegularFile ? Texts::TranscriptNotAFile
+                                                                : Texts::FailedToLoadTranscription;
+        Dialogs::showModalAlert(LocalizedString(Texts::Error), LocalizedString(message),
                                 LocalizedString(Texts::OK));
         return;
     }

@@ -73,14 +73,17 @@ public:
     // Whether the window shows a file with segments (read without touching
     // the engine, which a running analysis may be rewriting).
     bool hasSegmentsShown() const { return m_segmentsShown > 0; }
+    // Whether the latest save into the store (auto-save, export, close) failed.
+    bool lastSaveFailed() const { return m_lastSaveFailed; }
     // Called with the outcome after each opening has been shown (tests, the shell).
     void setOpeningFinishedHandler(std::function<void(bool success)> handler);
     void showLoadingIndicator();
     void hideLoadingIndicator();
     // Reaches a folder: at once when it can be read, else through a panel
     // asking the learner to choose it (the choice is remembered).
-    void requestDirectoryAccess(const QString& folder,
-                                const std::function<void(bool granted, const QString&)>& completion);
+    void
+    requestDirectoryAccess(const QString& folder,
+                           const std::function<void(bool granted, const QString&)>& completion);
     // Checks the remembered folder; it does not reopen anything.
     void restoreLastAudioFile();
 
@@ -204,6 +207,10 @@ private:
                            const std::optional<ReferenceText>& reference,
                            const ReferenceReadError& error);
 
+    // A save into the store ended: a failure puts up a notice that stays
+    // until a later save succeeds.
+    void storeSaveFinished(bool saved);
+
     // Typing journal (ViewController+Journal.cpp)
     void buildJournal();
     // The journal of the lesson just loaded: opened, and its records applied
@@ -291,4 +298,8 @@ private:
     std::unique_ptr<TypingJournal> m_journal;
     QTimer* m_journalSyncTimer = nullptr;
     bool m_replayingJournal = false;
+    bool m_lastSaveFailed = false;
+    // The lesson's store file exists but was refused unread (too large, not a
+    // regular file): it is not saved over.
+    bool m_storeRefused = false;
 };

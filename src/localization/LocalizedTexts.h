@@ -463,3 +463,22 @@ inline constexpr const char* JournalFailed = QT_TRANSLATE_NOOP(
 inline constexpr std::array Journal = {RecoveredTyping, JournalFailed};
 
 } // namespace Texts
+
+// Saves that did not reach the disk, and transcripts that are refused before
+// they are read.
+namespace Texts {
+
+inline constexpr const char* SaveFailedNotice = QT_TRANSLATE_NOOP(
+    "Localizable",
+    "Your typing could not be saved to disk; Kelmora will try again at the next save");
+inline constexpr const char* LastSaveFailed = QT_TRANSLATE_NOOP(
+    "Localizable", "The last save failed: what you typed since then may not be on disk.");
+inline constexpr const char* TranscriptTooLarge =
+    QT_TRANSLATE_NOOP("Localizable", "The transcript is larger than 16 MB and was not read.");
+inline constexpr const char* TranscriptNotAFile =
+    QT_TRANSLATE_NOOP("Localizable", "The transcript is not a regular file and was not read.");
+
+inline constexpr std::array SaveFaults = {SaveFailedNotice, LastSaveFailed, TranscriptTooLarge,
+                                          TranscriptNotAFile};
+
+} // namespace Texts

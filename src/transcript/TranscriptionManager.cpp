@@ -2,14 +2,21 @@
 #include "transcript/TranscriptionManager.h"
 
 #include "audio/AudioManager.h"
+#include "common/DurableWrite.h"
 #include "common/Log.h"
 #include "transcript/LrcReader.h"
 
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QScopeGuard>
 #include <QStringEncoder>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 TranscriptionManager& TranscriptionManager::sharedInstance()
 {
@@ -71,42 +78,96 @@ bool TranscriptionManager::saveTranscriptionsToFile(const QString& path)
     if (encoder.hasError())
         return fail(QStringLiteral("%1: the text cannot be encoded as UTF-8").arg(path));
 
-    // QSaveFile writes a temporary file beside the target and renames it over
-    // the target only once everything is on disk; on any failure the target
-    // is left as it was.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return fail(QStringLiteral("%1: %2").arg(path, file.errorString()));
-    if (file.write(bytes) != bytes.size()) {
-        const QString error = file.errorString();
-        file.cancelWriting();
-        return fail(QStringLiteral("%1: %2").arg(path, error));
-    }
-    if (!file.commit())
-        return fail(QStringLiteral("%1: %2").arg(path, file.errorString()));
+    // Written beside the target and renamed over it once synced: after any
+    // failure the previous file is still there, whole.
+    QString error;
+    if (!writeFileDurably(path, bytes, &error))
+        return fail(error);
 
     m_lastError.clear();
     qCInfo(lcTranscript, "Successfully wrote to file.");
     return true;
 }
 
+namespace {
+
+// Reads a transcript without ever blocking: a FIFO or a device is refused
+// after an open that does not wait (O_NONBLOCK) and an fstat, and so is a
+// file larger than the limit, before anything is allocated for it.
+TranscriptionManager::LoadFault readTranscriptBytes(const QString& path, QByteArray* bytes,
+                                                    QString* error)
+{
+    using Fault = TranscriptionManager::LoadFault;
+    const auto failed = [&](Fault fault, const QString& why) {
+        *error = QStringLiteral("%1: %2").arg(path, why);
+        return fault;
+    };
+    const int fd =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0)
+        return failed(Fault::Unreadable, QString::fromLocal8Bit(std::strerror(errno)));
+    const auto closeFd = qScopeGuard([fd] { ::close(fd); });
+    struct stat info
+    {
+    };
+    if (::fstat(fd, &info) != 0)
+        return failed(Fault::Unreadable, QString::fromLocal8Bit(std::strerror(errno)));
+    if (!S_ISREG(info.st_mode))
+        return failed(Fault::NotARegularFile, QStringLiteral("not a regular file"));
+    if (info.st_size > TranscriptionManager::kMaxTranscriptBytes)
+        return failed(Fault::TooLarge, QStringLiteral("%1 bytes, more than %2")
+                                           .arg(info.st_size)
+                                           .arg(TranscriptionManager::kMaxTranscriptBytes));
+    // The buffer grows past the size fstat gave only for a file growing
+    // meanwhile, and never past one byte over the limit.
+    constexpr qsizetype limit = TranscriptionManager::kMaxTranscriptBytes;
+    bytes->resize(static_cast<qsizetype>(info.st_size) + 1);
+    qsizetype filled = 0;
+    for (;;) {
+        if (filled == bytes->size()) {
+            if (filled > limit)
+                break;
+            bytes->resize(std::min(limit + 1, filled * 2 + 4096));
+        }
+        const ssize_t n =
+            ::read(fd, bytes->data() + filled, static_cast<size_t>(bytes->size() - filled));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0) {
+            const int code = errno;
+            bytes->clear();
+            return failed(Fault::Unreadable, QString::fromLocal8Bit(std::strerror(code)));
+        }
+        if (n == 0)
+            break;
+        filled += n;
+    }
+    if (filled > limit) {
+        bytes->clear();
+        return failed(Fault::TooLarge, QStringLiteral("more than %1 bytes").arg(limit));
+    }
+    bytes->resize(filled);
+    return Fault::None;
+}
+
+} // namespace
+
 bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
 {
+    m_lastLoadFault = LoadFault::None;
     if (!QFileInfo::exists(path)) {
         // The path itself is not printed; this line has always read (null).
         m_lastError = QStringLiteral("%1: no such file").arg(path);
+        m_lastLoadFault = LoadFault::Missing;
         qCInfo(lcTranscript, "Error file path: (null)");
         return false;
     }
 
-    QFile file(path);
     QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly))
-        bytes = file.readAll();
     std::optional<QString> text;
-    if (file.error() != QFileDevice::NoError) {
-        m_lastError = QStringLiteral("%1: %2").arg(path, file.errorString());
-    } else if (!(text = Lrc::decodeUtf8(bytes))) {
+    m_lastLoadFault = readTranscriptBytes(path, &bytes, &m_lastError);
+    if (m_lastLoadFault == LoadFault::None && !(text = Lrc::decodeUtf8(bytes))) {
+        m_lastLoadFault = LoadFault::NotUtf8;
         m_lastError = QStringLiteral("The file \u201c%1\u201d couldn\u2019t be opened using text "
                                      "encoding Unicode (UTF-8).")
                           .arg(QFileInfo(path).fileName());
@@ -118,9 +179,14 @@ bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
 
     Lrc::StampedLines lines = Lrc::readStampedLines(*text);
     const double total = m_totalDuration();
-    SegmentList segments = Lrc::buildSegments(lines.stamps, total);
+    QList<qsizetype> kept;
+    SegmentList segments = Lrc::buildSegments(lines.stamps, total, &kept);
 
-    m_transcriptions = std::move(lines.texts);
+    // One row per segment: the text of a stamp that got none (stamps running
+    // backwards) joins a row that did, rather than riding on a row of its
+    // own that no segment starts and the next save would stamp 00:00.000.
+    m_transcriptions =
+        kept.isEmpty() ? std::move(lines.texts) : Lrc::textsForSegments(lines.texts, kept);
     m_segments = std::move(segments);
     m_lastError.clear();
     return true;

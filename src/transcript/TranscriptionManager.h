@@ -49,18 +49,34 @@ public:
     // step: after a failure (read-only folder, full disk) the previous file is
     // still there, whole.
     bool saveTranscriptionsToFile(const QString& path);
+    // Why the last load failed.
+    enum class LoadFault
+    {
+        None,
+        Missing,
+        NotARegularFile, // a folder, a FIFO, a device: never opened for reading
+        TooLarge,        // over kMaxTranscriptBytes
+        Unreadable,
+        NotUtf8
+    };
+    // A transcript of 60 minutes at a line a second is under 100 KB.
+    static constexpr qint64 kMaxTranscriptBytes = 16 * 1024 * 1024;
+
     // Reads a transcript and replaces both lists with what it holds. Fails,
-    // changing nothing, when there is no file or it is not UTF-8 text.
+    // changing nothing, when there is no file, it is not a regular file, it
+    // is larger than kMaxTranscriptBytes or it is not UTF-8 text.
     bool loadTranscriptionsFromFile(const QString& path);
     // "1. text\n2. text\n..." with the final line feed kept.
     QString exportToText() const;
 
     // Why the last save or load failed (the logged error); empty after a success.
     QString lastError() const { return m_lastError; }
+    LoadFault lastLoadFault() const { return m_lastLoadFault; }
 
 private:
     DurationProvider m_totalDuration;
     QStringList m_transcriptions;
     std::optional<SegmentList> m_segments;
     QString m_lastError;
+    LoadFault m_lastLoadFault = LoadFault::None;
 };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the store survives: a folder that turns read-only, a full disk, a
-// store file that is not text. Each leaves the last good transcript as it
-// was, byte for byte, and the session running.
+// What the store survives: a folder that turns read-only or is deleted, a
+// full disk, a store file that is not text, an import that is not a file.
+// Each leaves the last good transcript as it was, byte for byte, says so
+// until a save succeeds, and keeps the session running.
 //
 // The binary runs in a private mount namespace (see CMakeLists.txt), where it
 // may mount small file systems over the store folder.
@@ -11,6 +12,8 @@
 #include "app/ViewController.h"
 #include "app/WindowHarness.h"
 #include "audio/AudioManager.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
 #include "support/TestSupport.h"
 #include "transcript/DocumentManager.h"
 #include "views/TranscriptionTableView.h"
@@ -18,10 +21,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
+#include <utility>
 
 using TestSupport::fixture;
 
@@ -40,8 +46,8 @@ protected:
     {
         store = h.documentsPath() + "/" + DocumentManager::TranscriptionsFolder;
         // A small file system of its own over the store folder.
-        if (::mount("kelmora-test", QFile::encodeName(store).constData(), "tmpfs", 0,
-                    "size=64k") != 0)
+        if (::mount("kelmora-test", QFile::encodeName(store).constData(), "tmpfs", 0, "size=64k") !=
+            0)
             GTEST_SKIP() << "no private mount namespace here: " << std::strerror(errno);
         mounted = true;
         QApplication::setActiveWindow(&h.window());
@@ -69,6 +75,8 @@ protected:
         h.finishAutoSaves();
     }
 
+    QString statusMessage() { return h.session().statusBar()->currentMessage(); }
+
     QStringList storeFolderEntries() const
     {
         return QDir(store).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -93,6 +101,7 @@ TEST_F(SessionFaults, AStoreFolderThatTurnedReadOnlyKeepsTheLastTranscript)
     saveBySelecting(2);
     EXPECT_EQ(readAll(h.storePath()), saved);
     EXPECT_EQ(storeFolderEntries().size(), 1);
+    EXPECT_EQ(statusMessage(), LocalizedString(Texts::SaveFailedNotice));
     // The learner carries on.
     EXPECT_EQ(h.session().currentSegmentIndex(), 2);
     EXPECT_TRUE(h.engine().isPlaying());
@@ -107,11 +116,59 @@ TEST_F(SessionFaults, AFullDiskKeepsTheLastTranscriptAndLeavesNoPartFile)
     EXPECT_EQ(readAll(h.storePath()), saved);
     EXPECT_EQ(storeFolderEntries(), QStringList{QFileInfo(h.storePath()).fileName()});
     EXPECT_EQ(h.session().currentSegmentIndex(), 2);
+    // The failure is said, and stays said while the learner goes on.
+    EXPECT_EQ(statusMessage(), LocalizedString(Texts::SaveFailedNotice));
+    QTest::qWait(50);
+    EXPECT_EQ(statusMessage(), LocalizedString(Texts::SaveFailedNotice));
+    {
+        AlertAnswerer answer(LocalizedString(Texts::Cancel));
+        h.window().close();
+        ASSERT_TRUE(answer.waitForAlerts(1));
+        EXPECT_TRUE(
+            answer.seen()[0].informativeText.contains(LocalizedString(Texts::LastSaveFailed)));
+    }
 
-    // Room again: the next save goes through.
+    // Room again: the next save goes through and takes the notice away.
     table->updateTranscription("short again", 1);
     saveBySelecting(3);
     EXPECT_TRUE(readAll(h.storePath()).contains("short again"));
+    EXPECT_TRUE(statusMessage().isEmpty());
+    EXPECT_FALSE(h.session().lastSaveFailed());
+}
+
+TEST_F(SessionFaults, ADeletedStoreFolderIsMadeAgainByTheNextSave)
+{
+    ::umount2(QFile::encodeName(store).constData(), MNT_DETACH);
+    mounted = false;
+    ASSERT_TRUE(QDir(store).removeRecursively());
+    table->updateTranscription("after the folder went", 1);
+    saveBySelecting(2);
+    EXPECT_TRUE(readAll(h.storePath()).contains("after the folder went"));
+    EXPECT_TRUE(statusMessage().isEmpty());
+}
+
+TEST_F(SessionFaults, ImportRefusesFifosDevicesAndHugeFilesWithAMessage)
+{
+    QTemporaryDir dir;
+    const QString fifo = dir.filePath("fifo.lrc");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    const QString big = dir.filePath("big.lrc");
+    {
+        QFile file(big);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(file.resize(50 * 1024 * 1024));
+    }
+    const std::pair<QString, const char*> refused[] = {{fifo, Texts::TranscriptNotAFile},
+                                                       {"/dev/zero", Texts::TranscriptNotAFile},
+                                                       {big, Texts::TranscriptTooLarge}};
+    for (const auto& [path, message] : refused) {
+        SCOPED_TRACE(path.toStdString());
+        AlertAnswerer answer(LocalizedString(Texts::OK));
+        h.session().importTranscriptionFrom(path);
+        ASSERT_TRUE(answer.waitForAlerts(1));
+        EXPECT_EQ(answer.seen()[0].informativeText, LocalizedString(message));
+        EXPECT_EQ(table->mutableTranscriptions().value(0), "good text");
+    }
 }
 
 TEST_F(SessionFaults, AStoreFileThatIsNotTextOrIsOneHugeLineOpensWithEmptyRows)

@@ -92,6 +92,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::KeyboardCommands.begin(), Texts::KeyboardCommands.end()));
     texts.append(QList<const char*>(Texts::ReferenceCheck.begin(), Texts::ReferenceCheck.end()));
     texts.append(QList<const char*>(Texts::Journal.begin(), Texts::Journal.end()));
+    texts.append(QList<const char*>(Texts::SaveFaults.begin(), Texts::SaveFaults.end()));
     return texts;
 }
 

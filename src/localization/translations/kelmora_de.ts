@@ -743,5 +743,21 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>Eingaben seit dem letzten Speichern sind nicht gesichert: Das Journal kann nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>Deine Eingaben konnten nicht auf der Festplatte gespeichert werden; Kelmora versucht es beim nächsten Speichern erneut</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>Das letzte Speichern ist fehlgeschlagen: Was du seitdem getippt hast, ist möglicherweise nicht auf der Festplatte.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>Das Transkript ist größer als 16 MB und wurde nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>Das Transkript ist keine reguläre Datei und wurde nicht gelesen.</translation>
+    </message>
 </context>
 </TS>

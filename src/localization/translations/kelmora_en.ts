@@ -743,5 +743,21 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>Typing since the last save is not protected: the journal cannot be written</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>Your typing could not be saved to disk; Kelmora will try again at the next save</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>The last save failed: what you typed since then may not be on disk.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>The transcript is larger than 16 MB and was not read.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>The transcript is not a regular file and was not read.</translation>
+    </message>
 </context>
 </TS>

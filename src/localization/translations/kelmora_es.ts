@@ -743,5 +743,21 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>Lo escrito desde el último guardado no está protegido: no se puede escribir el diario</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>No se pudo guardar lo que escribiste en el disco; Kelmora lo intentará de nuevo en el próximo guardado</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>El último guardado falló: lo que escribiste desde entonces puede no estar en el disco.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>La transcripción ocupa más de 16 MB y no se ha leído.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>La transcripción no es un archivo normal y no se ha leído.</translation>
+    </message>
 </context>
 </TS>

@@ -743,5 +743,21 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>La saisie depuis le dernier enregistrement n’est pas protégée : le journal ne peut pas être écrit</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>Votre saisie n’a pas pu être enregistrée sur le disque ; Kelmora réessaiera au prochain enregistrement</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>Le dernier enregistrement a échoué : ce que vous avez tapé depuis n’est peut-être pas sur le disque.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>La transcription dépasse 16 Mo et n’a pas été lue.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>La transcription n’est pas un fichier ordinaire et n’a pas été lue.</translation>
+    </message>
 </context>
 </TS>

@@ -743,5 +743,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>前回の保存以降の入力は保護されていません：ジャーナルに書き込めません</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>入力内容をディスクに保存できませんでした。次回の保存時に Kelmora が再試行します</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>前回の保存に失敗しました。それ以降に入力した内容はディスクに保存されていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>トランスクリプトが 16 MB を超えているため、読み込みませんでした。</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>トランスクリプトが通常のファイルではないため、読み込みませんでした。</translation>
+    </message>
 </context>
 </TS>

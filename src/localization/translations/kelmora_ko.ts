@@ -743,5 +743,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>마지막 저장 이후의 입력이 보호되지 않습니다: 저널을 쓸 수 없습니다</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>입력한 내용을 디스크에 저장하지 못했습니다. Kelmora가 다음 저장 때 다시 시도합니다</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>마지막 저장에 실패했습니다. 그 이후에 입력한 내용은 디스크에 없을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>대본이 16MB보다 커서 읽지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>대본이 일반 파일이 아니어서 읽지 않았습니다.</translation>
+    </message>
 </context>
 </TS>

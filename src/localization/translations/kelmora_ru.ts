@@ -743,5 +743,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>Текст, набранный после последнего сохранения, не защищён: журнал не удаётся записать</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>Не удалось сохранить набранный текст на диск; Kelmora попробует снова при следующем сохранении</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>Последнее сохранение не удалось: набранное с тех пор, возможно, не записано на диск.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>Расшифровка больше 16 МБ и не была прочитана.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>Расшифровка не является обычным файлом и не была прочитана.</translation>
+    </message>
 </context>
 </TS>

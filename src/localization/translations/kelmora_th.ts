@@ -743,5 +743,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>ข้อความที่พิมพ์หลังการบันทึกครั้งล่าสุดไม่ได้รับการป้องกัน: ไม่สามารถเขียนบันทึกการพิมพ์ได้</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>ไม่สามารถบันทึกสิ่งที่คุณพิมพ์ลงดิสก์ได้ Kelmora จะลองอีกครั้งในการบันทึกครั้งถัดไป</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>การบันทึกครั้งล่าสุดล้มเหลว: สิ่งที่คุณพิมพ์หลังจากนั้นอาจไม่ได้อยู่บนดิสก์</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>ไฟล์ถอดความมีขนาดใหญ่กว่า 16 MB จึงไม่ได้อ่าน</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>ไฟล์ถอดความไม่ใช่ไฟล์ปกติ จึงไม่ได้อ่าน</translation>
+    </message>
 </context>
 </TS>

@@ -743,5 +743,21 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>Nội dung gõ từ lần lưu gần nhất chưa được bảo vệ: không thể ghi nhật ký</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>Không thể lưu nội dung bạn gõ vào ổ đĩa; Kelmora sẽ thử lại ở lần lưu tiếp theo</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>Lần lưu gần nhất đã thất bại: những gì bạn gõ từ đó có thể chưa được ghi vào ổ đĩa.</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>Bản chép lời lớn hơn 16 MB nên không được đọc.</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>Bản chép lời không phải là tệp thông thường nên không được đọc.</translation>
+    </message>
 </context>
 </TS>

@@ -743,5 +743,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Typing since the last save is not protected: the journal cannot be written</source>
         <translation>自上次保存以来的输入未受保护：无法写入日志</translation>
     </message>
+    <message>
+        <source>Your typing could not be saved to disk; Kelmora will try again at the next save</source>
+        <translation>无法将你输入的内容保存到磁盘；Kelmora 会在下次保存时重试</translation>
+    </message>
+    <message>
+        <source>The last save failed: what you typed since then may not be on disk.</source>
+        <translation>上次保存失败：此后输入的内容可能没有写入磁盘。</translation>
+    </message>
+    <message>
+        <source>The transcript is larger than 16 MB and was not read.</source>
+        <translation>字幕文件大于 16 MB，未读取。</translation>
+    </message>
+    <message>
+        <source>The transcript is not a regular file and was not read.</source>
+        <translation>字幕文件不是普通文件，未读取。</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// Replaces a file's content so that it is either the old content or the new
+// one, even after a crash or a power cut, and says truthfully whether the new
+// content reached the disk: the bytes go to a temporary file beside the
+// target, every write, the fsync and the close are checked, the temporary
+// file is renamed over the target and the folder is synced after the rename.
+// On failure the temporary file is removed, the target is left as it was and
+// `error` gets "path: reason".
+bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* error = nullptr);
