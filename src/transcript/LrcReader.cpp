@@ -141,12 +141,9 @@ StampedLines readStampedLines(const QString& text)
     return out;
 }
 
-SegmentList buildSegments(const QList<double>& stamps, double totalDuration,
-                          QList<qsizetype>* keptStamps)
+SegmentList buildSegments(const QList<double>& stamps, double totalDuration)
 {
     SegmentList segments;
-    if (keptStamps)
-        keptStamps->clear();
     const qsizetype n = stamps.size();
     for (qsizetype i = 0; i < n; ++i) {
         const double start = stamps[i];
@@ -169,33 +166,8 @@ SegmentList buildSegments(const QList<double>& stamps, double totalDuration,
         qCInfo(lcTranscript, "%lld,start=%f,duration=%f", static_cast<long long>(i + 1), start,
                duration);
         segments.append(Segment{start, duration});
-        if (keptStamps)
-            keptStamps->append(i);
     }
     return segments;
-}
-
-QStringList textsForSegments(const QStringList& texts, const QList<qsizetype>& keptStamps)
-{
-    const auto joined = [](const QString& a, const QString& b) {
-        return a.isEmpty() ? b : b.isEmpty() ? a : a + u' ' + b;
-    };
-    QStringList rows;
-    rows.reserve(keptStamps.size());
-    QString before; // texts ahead of the first segment's stamp
-    qsizetype next = 0;
-    for (qsizetype i = 0; i < texts.size(); ++i) {
-        if (next < keptStamps.size() && keptStamps[next] == i) {
-            rows.append(joined(before, texts[i]));
-            before.clear();
-            ++next;
-        } else if (rows.isEmpty()) {
-            before = joined(before, texts[i]);
-        } else {
-            rows.last() = joined(rows.last(), texts[i]);
-        }
-    }
-    return rows;
 }
 
 } // namespace Lrc

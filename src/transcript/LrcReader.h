@@ -70,15 +70,7 @@ StampedLines readStampedLines(const QString& text);
 // next stamp, the last one to the end of the audio, or 5 s when no audio is
 // open (total 0). Stamps that would give no positive length get no segment,
 // so the result can be shorter than the stamps. A stamp past the end of the
-// audio stops the cutting there. Logs each segment and the early stop. When
-// asked, `keptStamps` gets the index of the stamp each segment starts at.
-SegmentList buildSegments(const QList<double>& stamps, double totalDuration,
-                          QList<qsizetype>* keptStamps = nullptr);
-
-// The texts regrouped one per segment: each text whose stamp got no segment
-// is appended (after a space) to the row before it, or put before the first
-// row when no row precedes it, so that no typed word is dropped. Empty texts
-// add nothing. `keptStamps` is what buildSegments gave and must not be empty.
-QStringList textsForSegments(const QStringList& texts, const QList<qsizetype>& keptStamps);
+// audio stops the cutting there. Logs each segment and the early stop.
+SegmentList buildSegments(const QList<double>& stamps, double totalDuration);
 
 } // namespace Lrc

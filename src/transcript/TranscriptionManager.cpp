@@ -179,14 +179,9 @@ bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
 
     Lrc::StampedLines lines = Lrc::readStampedLines(*text);
     const double total = m_totalDuration();
-    QList<qsizetype> kept;
-    SegmentList segments = Lrc::buildSegments(lines.stamps, total, &kept);
+    SegmentList segments = Lrc::buildSegments(lines.stamps, total);
 
-    // One row per segment: the text of a stamp that got none (stamps running
-    // backwards) joins a row that did, rather than riding on a row of its
-    // own that no segment starts and the next save would stamp 00:00.000.
-    m_transcriptions =
-        kept.isEmpty() ? std::move(lines.texts) : Lrc::textsForSegments(lines.texts, kept);
+    m_transcriptions = std::move(lines.texts);
     m_segments = std::move(segments);
     m_lastError.clear();
     return true;
