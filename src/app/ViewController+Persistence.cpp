@@ -164,11 +164,11 @@ void ViewController::saveTranscriptionWithCompletion(const std::function<void(bo
         const quint64 sequence = journalSequence();
         stageTranscriptions(m_transcriptions);
         const bool saved = m_transcriptions.saveTranscriptionsToFile(path);
-        if (saved && saveTranscriptionToSandbox())
-            journalSaved(journalPath(), sequence);
-        else
+        if (!saved)
             Dialogs::showMsg(LocalizedString(Texts::SaveError),
                              LocalizedString(Texts::ErrorWritingToFile));
+        else if (saveTranscriptionToSandbox())
+            journalSaved(journalPath(), sequence);
         completion(saved);
     });
     panel->open();
@@ -190,12 +190,13 @@ void ViewController::exportTranscriptionTo(const QString& path)
         return;
     const quint64 sequence = journalSequence();
     stageTranscriptions(m_transcriptions);
-    if (m_transcriptions.saveTranscriptionsToFile(path)) {
-        if (saveTranscriptionToSandbox())
-            journalSaved(journalPath(), sequence);
-    } else
+    if (!m_transcriptions.saveTranscriptionsToFile(path)) {
         Dialogs::showMsg(LocalizedString(Texts::SaveError),
                          LocalizedString(Texts::ErrorWritingToFile));
+        return;
+    }
+    if (saveTranscriptionToSandbox())
+        journalSaved(journalPath(), sequence);
 }
 
 void ViewController::importTranscription()
