@@ -7,6 +7,7 @@
 // Usage: check_bench
 
 #include "BenchSupport.h"
+#include "LessonSentences.h"
 #include "reference/Checker.h"
 
 #include <QCoreApplication>
@@ -23,13 +24,7 @@ double ms(qint64 ns)
     return double(ns) / 1e6;
 }
 
-const QStringList kSentences = {
-    "Good morning, everyone, and welcome back to the programme.",
-    "Today we are going to talk about the weather in the north of the country.",
-    "It is often cold and windy there, even in the middle of the summer.",
-    "Many people keep a warm coat by the door all year, just in case.",
-    "The farmers say they can tell tomorrow's weather from the colour of the sky.",
-};
+const QStringList& kSentences = Bench::lessonSentences();
 
 // What a learner might have typed for a sentence: one typo, one word left
 // out, one word too many, case and punctuation loose.

@@ -12,6 +12,7 @@
 // one on the file system of the application's data folder to measure that)
 
 #include "BenchSupport.h"
+#include "LessonSentences.h"
 #include "transcript/TypingJournal.h"
 
 #include <QCoreApplication>
@@ -25,13 +26,7 @@
 
 namespace {
 
-const QStringList kSentences = {
-    "Good morning, everyone, and welcome back to the programme.",
-    "Today we are going to talk about the weather in the north of the country.",
-    "It is often cold and windy there, even in the middle of the summer.",
-    "Many people keep a warm coat by the door all year, just in case.",
-    "The farmers say they can tell tomorrow's weather from the colour of the sky.",
-};
+const QStringList& kSentences = Bench::lessonSentences();
 
 double percentile(std::vector<double> values, double p)
 {
