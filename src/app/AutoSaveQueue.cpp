@@ -2,6 +2,7 @@
 #include "app/AutoSaveQueue.h"
 
 #include "app/FileIdentity.h"
+#include "common/DurableWrite.h"
 #include "common/Log.h"
 #include "common/ThreadHandOff.h"
 #include "transcript/LrcLine.h"
@@ -10,7 +11,11 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QThreadPool>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <exception>
 
 namespace {
@@ -115,11 +120,24 @@ bool AutoSaveQueue::save(const Snapshot& snapshot, QString* identifierOut)
         qCInfo(lcApp, "Failed to create folder: %s", qUtf8Printable(snapshot.transcriptionsFolder));
         return false;
     }
+    const QString tempPath = storePath + QStringLiteral(".temp");
     // A staging list of this job's own: the main thread's saves use theirs.
-    // The manager writes beside the store file and renames over it, so a
-    // crash or a full disk at any moment leaves either the old transcript or
-    // the new one.
     TranscriptionManager staging([] { return 0.0; });
     staging.setTranscriptions(linesForSnapshot(snapshot));
-    return staging.saveTranscriptionsToFile(storePath);
+    if (!staging.saveTranscriptionsToFile(tempPath))
+        return false;
+    // rename() puts the new file in the old one's place in one step, so a
+    // crash at any moment leaves either the old transcript or the new one.
+    if (std::rename(QFile::encodeName(tempPath).constData(),
+                    QFile::encodeName(storePath).constData()) != 0) {
+        qCInfo(lcApp, "Failed to replace file: %s", std::strerror(errno));
+        return false;
+    }
+    // The rename reaches the disk with the folder.
+    QString error;
+    if (!syncFolder(snapshot.transcriptionsFolder, &error)) {
+        qCInfo(lcApp, "Failed to replace file: %s", qUtf8Printable(error));
+        return false;
+    }
+    return true;
 }

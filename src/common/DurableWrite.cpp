@@ -104,12 +104,27 @@ bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* err
         return failAndRemove(errno);
 
     // The rename is durable only once the folder is.
-    const int dirFd = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (dirFd < 0)
-        return fail(QString::fromLocal8Bit(folder), errno);
+    return syncFolder(QString::fromLocal8Bit(folder), error);
+}
+
+bool syncFolder(const QString& folder, QString* error)
+{
+    const int dirFd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (dirFd < 0) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(folder, reason(errno));
+        return false;
+    }
     Descriptor dir(dirFd);
+    int result = 0;
+    do {
+        result = ::fsync(dir.get());
+    } while (result != 0 && errno == EINTR);
     // Some file systems cannot sync a folder; the data is already synced there.
-    if (::fsync(dir.get()) != 0 && errno != EINVAL)
-        return fail(QString::fromLocal8Bit(folder), errno);
+    if (result != 0 && errno != EINVAL) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(folder, reason(errno));
+        return false;
+    }
     return true;
 }

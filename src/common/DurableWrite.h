@@ -12,3 +12,8 @@
 // On failure the temporary file is removed, the target is left as it was and
 // `error` gets "path: reason".
 bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* error = nullptr);
+
+// fsync of a folder, so that a rename or a new file in it is on the disk. A
+// file system that cannot sync a folder counts as done. False (and `error`)
+// when the folder cannot be opened or synced.
+bool syncFolder(const QString& folder, QString* error = nullptr);

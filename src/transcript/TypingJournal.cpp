@@ -3,6 +3,7 @@
 
 #include "JournalFormat.h"
 #include "JournalSyncer.h"
+#include "common/DurableWrite.h"
 #include "common/Log.h"
 
 #include <QDir>
@@ -79,16 +80,6 @@ int retryInterrupted(Call call)
         result = call();
     } while (result < 0 && errno == EINTR);
     return result;
-}
-
-bool syncFolder(const QString& folder)
-{
-    const int fd = ::open(encodedPath(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    const bool ok = retryInterrupted([&] { return ::fsync(fd); }) == 0;
-    ::close(fd);
-    return ok;
 }
 
 // The records the file holds, dropped ones left out, from its bytes.
