@@ -30,13 +30,14 @@ launch() {
   xdotool windowactivate --sync "$main"
 }
 
-words=(alpha beta gamma delta "" echo "fox trot" golf hotel india)
+# No spaces: the store keeps a row trimmed, and a kill while typing could
+# leave a row ending in one.
+words=(alpha beta gamma delta "" echo foxtrot golf hotel india)
 confirmed=""
 recovered=0
 for kill in $(seq "$kills"); do
   launch
   until_equal "row 0 after launch $kill" "$confirmed" probe cell 0 1 > /dev/null
-  # No space at either end: the store keeps a row's text trimmed.
   word="${words[RANDOM % ${#words[@]}]}$kill-"
   if (( kill % 2 == 0 )); then
     xdotool type --delay 20 "$word"
