@@ -8,6 +8,7 @@
 #include "common/Log.h"
 #include "common/NotificationCenter.h"
 #include "common/NotificationNames.h"
+#include "common/ThreadHandOff.h"
 #include "dialogs/Dialogs.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
@@ -120,17 +121,16 @@ void ViewController::attachReferenceTextFrom(const QString& path)
     const QString audioPath = m_currentAudioPath;
     const quint64 read = ++m_referenceReads;
     QPointer<ViewController> self(this);
-    QThreadPool::globalInstance()->start([self, path, audioPath, duration, read] {
+    startHandedOver(QThreadPool::globalInstance(), [self, path, audioPath, duration, read] {
         ReferenceReadError error;
         std::optional<ReferenceText> reference = ReferenceReader::readFile(path, duration, &error);
-        QMetaObject::invokeMethod(
-            qApp,
-            [self, path, audioPath, reference = std::move(reference), error, read] {
-                ViewController* controller = self.data();
-                if (controller && read == controller->m_referenceReads)
-                    controller->referenceFileRead(path, audioPath, reference, error);
-            },
-            Qt::QueuedConnection);
+        // The application outlives any window, so it carries the result back.
+        postHandedOver(qApp, [self, path, audioPath, reference = std::move(reference), error,
+                              read] {
+            ViewController* controller = self.data();
+            if (controller && read == controller->m_referenceReads)
+                controller->referenceFileRead(path, audioPath, reference, error);
+        });
     });
 }
 
