@@ -99,7 +99,8 @@ TEST_F(SessionJournal, TypingNeverSavedComesBackAndASaveDropsIt)
         AlertAnswerer ok(QStringLiteral("OK"));
         h.session().clearTranscription();
         ASSERT_TRUE(ok.waitForAlerts(1));
-        EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
+        // The sheet's answer reaches the session through the event loop.
+        EXPECT_TRUE(waitFor([&] { return table->mutableTranscriptions().join(QString()).isEmpty(); }));
     }
     WindowHarness h(QString(), dataHome.path());
     TranscriptionTableView* table = open(h);
