@@ -124,12 +124,16 @@ StampedLines readStampedLines(const QString& text)
         if (header)
             continue; // an offset is not applied either
         const std::optional<StampMatch> match = matchStamp(line);
-        if (!match)
+        if (!match) {
+            ++out.skipped;
             continue;
+        }
         const double t = stampSeconds(*match);
         // Of two consecutive lines with the same stamp the first one wins.
-        if (!out.stamps.isEmpty() && std::fabs(t - lastStamp) < 1e-6)
+        if (!out.stamps.isEmpty() && std::fabs(t - lastStamp) < 1e-6) {
+            ++out.skipped;
             continue;
+        }
         out.stamps.append(t);
         out.texts.append(trimSpacesAndTabs(match->rest));
         lastStamp = t;
@@ -141,7 +145,8 @@ StampedLines readStampedLines(const QString& text)
     return out;
 }
 
-SegmentList buildSegments(const QList<double>& stamps, double totalDuration)
+SegmentList buildSegments(const QList<double>& stamps, double totalDuration,
+                          QList<qsizetype>* sources)
 {
     SegmentList segments;
     const qsizetype n = stamps.size();
@@ -166,8 +171,34 @@ SegmentList buildSegments(const QList<double>& stamps, double totalDuration)
         qCInfo(lcTranscript, "%lld,start=%f,duration=%f", static_cast<long long>(i + 1), start,
                duration);
         segments.append(Segment{start, duration});
+        if (sources)
+            sources->append(i);
     }
     return segments;
+}
+
+QStringList foldTextsOntoSegments(const QList<double>& stamps, const QStringList& texts,
+                                  const SegmentList& segments, const QList<qsizetype>& sources)
+{
+    QStringList rows(segments.size());
+    if (segments.isEmpty())
+        return rows;
+    qsizetype own = 0; // the next segment whose stamp is still to come
+    for (qsizetype i = 0; i < texts.size() && i < stamps.size(); ++i) {
+        qsizetype row = 0;
+        if (own < sources.size() && sources[own] == i) {
+            row = own++;
+        } else {
+            for (qsizetype s = 0; s < segments.size(); ++s) {
+                if (segments[s].start <= stamps[i])
+                    row = s;
+            }
+        }
+        if (texts[i].isEmpty())
+            continue;
+        rows[row] = rows[row].isEmpty() ? texts[i] : rows[row] + u' ' + texts[i];
+    }
+    return rows;
 }
 
 } // namespace Lrc

@@ -58,6 +58,9 @@ struct StampedLines
 {
     QList<double> stamps;
     QStringList texts; // same length as stamps
+    // Non-empty lines that were neither a header tag nor taken: no stamp, or
+    // the same stamp as the line before.
+    int skipped = 0;
 };
 
 // Reads every line of a transcript in order: empty lines and the header tags
@@ -71,6 +74,16 @@ StampedLines readStampedLines(const QString& text);
 // open (total 0). Stamps that would give no positive length get no segment,
 // so the result can be shorter than the stamps. A stamp past the end of the
 // audio stops the cutting there. Logs each segment and the early stop.
-SegmentList buildSegments(const QList<double>& stamps, double totalDuration);
+// `sources`, when given, receives for each segment the index of its stamp.
+SegmentList buildSegments(const QList<double>& stamps, double totalDuration,
+                          QList<qsizetype>* sources = nullptr);
+
+// One text per segment: each segment's own text, with the texts whose stamps
+// got no segment (running backwards, or past the end) joined with a space
+// onto the last segment that starts at or before their time (the first
+// segment when none does), in file order. Rows then match the segments one to one, and no
+// typed word is left on a row that has no time of its own.
+QStringList foldTextsOntoSegments(const QList<double>& stamps, const QStringList& texts,
+                                  const SegmentList& segments, const QList<qsizetype>& sources);
 
 } // namespace Lrc

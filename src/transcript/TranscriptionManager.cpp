@@ -13,8 +13,10 @@
 #include <QStringEncoder>
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstring>
 #include <fcntl.h>
+#include <numeric>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -152,7 +154,7 @@ TranscriptionManager::LoadFault readTranscriptBytes(const QString& path, QByteAr
 
 } // namespace
 
-bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
+bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path, bool readDamaged)
 {
     m_lastLoadFault = LoadFault::None;
     if (!QFileInfo::exists(path)) {
@@ -166,7 +168,14 @@ bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
     QByteArray bytes;
     std::optional<QString> text;
     m_lastLoadFault = readTranscriptBytes(path, &bytes, &m_lastError);
-    if (m_lastLoadFault == LoadFault::None && !(text = Lrc::decodeUtf8(bytes))) {
+    if (m_lastLoadFault == LoadFault::None)
+        text = Lrc::decodeUtf8(bytes);
+    if (!text && m_lastLoadFault == LoadFault::None && readDamaged) {
+        text = QString::fromUtf8(bytes);
+        if (text->startsWith(QChar(0xFEFF)))
+            text->remove(0, 1);
+    }
+    if (!text && m_lastLoadFault == LoadFault::None) {
         m_lastLoadFault = LoadFault::NotUtf8;
         m_lastError = QStringLiteral("The file \u201c%1\u201d couldn\u2019t be opened using text "
                                      "encoding Unicode (UTF-8).")
@@ -179,12 +188,58 @@ bool TranscriptionManager::loadTranscriptionsFromFile(const QString& path)
 
     Lrc::StampedLines lines = Lrc::readStampedLines(*text);
     const double total = m_totalDuration();
-    SegmentList segments = Lrc::buildSegments(lines.stamps, total);
+    m_loadedTotal = total;
+    m_sources.clear();
+    SegmentList segments = Lrc::buildSegments(lines.stamps, total, &m_sources);
 
+    m_stamps = std::move(lines.stamps);
+    m_skippedLines = lines.skipped;
     m_transcriptions = std::move(lines.texts);
     m_segments = std::move(segments);
     m_lastError.clear();
     return true;
+}
+
+void TranscriptionManager::orderByTime()
+{
+    const qsizetype n = std::min(m_stamps.size(), m_transcriptions.size());
+    QList<qsizetype> order(n);
+    std::iota(order.begin(), order.end(), qsizetype(0));
+    std::stable_sort(order.begin(), order.end(),
+                     [this](qsizetype a, qsizetype b) { return m_stamps[a] < m_stamps[b]; });
+    QList<double> stamps;
+    QStringList texts;
+    for (qsizetype i : std::as_const(order)) {
+        const QString& text = m_transcriptions[i];
+        if (!stamps.isEmpty() && std::fabs(m_stamps[i] - stamps.last()) < 1e-6) {
+            if (!text.isEmpty())
+                texts.last() = texts.last().isEmpty() ? text : texts.last() + u' ' + text;
+            continue;
+        }
+        stamps.append(m_stamps[i]);
+        texts.append(text);
+    }
+    m_stamps = std::move(stamps);
+    m_transcriptions = std::move(texts);
+    m_sources.clear();
+    m_segments = Lrc::buildSegments(m_stamps, m_loadedTotal, &m_sources);
+    // The segment before a stamp past the end would run to that stamp.
+    for (Segment& segment : *m_segments) {
+        if (m_loadedTotal > 0.0 && segment.start + segment.duration > m_loadedTotal)
+            segment.duration = m_loadedTotal - segment.start;
+    }
+}
+
+QStringList TranscriptionManager::textsPerSegment() const
+{
+    if (!m_segments || m_transcriptions.size() == m_segments->size())
+        return m_transcriptions;
+    return Lrc::foldTextsOntoSegments(m_stamps, m_transcriptions, *m_segments, m_sources);
+}
+
+bool TranscriptionManager::loadedWhole() const
+{
+    return m_skippedLines == 0 && m_segments && m_transcriptions.size() == m_segments->size();
 }
 
 QString TranscriptionManager::exportToText() const

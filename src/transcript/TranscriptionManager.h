@@ -65,7 +65,22 @@ public:
     // Reads a transcript and replaces both lists with what it holds. Fails,
     // changing nothing, when there is no file, it is not a regular file, it
     // is larger than kMaxTranscriptBytes or it is not UTF-8 text.
-    bool loadTranscriptionsFromFile(const QString& path);
+    // `readDamaged` reads bytes that are not UTF-8 as replacement characters
+    // instead of failing: every line that can still be read comes back.
+    bool loadTranscriptionsFromFile(const QString& path, bool readDamaged = false);
+    // After a load: one text per loaded segment. When some lines got no
+    // segment (stamps running backwards or past the end) their texts are
+    // joined onto a neighbour, so a row never outlives its time.
+    QStringList textsPerSegment() const;
+    // After a load: every stamped line became a segment of its own and no
+    // line was skipped, so the file can be written again from the rows
+    // without losing anything it held.
+    bool loadedWhole() const;
+    // Puts the lines of the last load in the order of their stamps (a line
+    // with the same stamp as the one before it joins its text) and cuts the
+    // segments again, none past the end of the audio, so a damaged file
+    // still gives rows that play in order.
+    void orderByTime();
     // "1. text\n2. text\n..." with the final line feed kept.
     QString exportToText() const;
 
@@ -77,6 +92,11 @@ private:
     DurationProvider m_totalDuration;
     QStringList m_transcriptions;
     std::optional<SegmentList> m_segments;
+    // What the last load read besides the texts and segments.
+    QList<double> m_stamps;
+    QList<qsizetype> m_sources; // the stamp of each segment
+    int m_skippedLines = 0;
+    double m_loadedTotal = 0.0;
     QString m_lastError;
     LoadFault m_lastLoadFault = LoadFault::None;
 };

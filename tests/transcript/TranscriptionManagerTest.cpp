@@ -101,6 +101,9 @@ TEST_F(TranscriptionManagerTest, RoundTripKeepsRowsTextsAndStamps)
     EXPECT_DOUBLE_EQ(s[1].start, 4.719);
     EXPECT_DOUBLE_EQ(s[2].start, 12.34);
     EXPECT_DOUBLE_EQ(s[2].end(), 20.0);
+    // Nothing in the file is lost if the rows are written over it.
+    EXPECT_TRUE(reader.loadedWhole());
+    EXPECT_EQ(reader.textsPerSegment(), reader.transcriptions());
 }
 
 TEST_F(TranscriptionManagerTest, AThousandSaveLoadCyclesLeaveEveryStampAsItWas)
@@ -261,6 +264,10 @@ TEST_F(TranscriptionManagerTest, StampsBeyondTheAudioStopTheSegmentsButKeepTheTe
     EXPECT_EQ(*store.segments(), (SegmentList{{0.0, 2.0}, {2.0, 2.0}}));
     EXPECT_TRUE(log.contains("loadTranscriptionsFromFile:非法的分段,分段开始时间大于音频总时间"));
     EXPECT_TRUE(log.contains("2,start=2.000000,duration=2.000000"));
+    // One row per segment: "c", past the end, joins the last; "d" the one
+    // holding 1 s.
+    EXPECT_EQ(store.textsPerSegment(), (QStringList{"a d", "b c"}));
+    EXPECT_FALSE(store.loadedWhole());
 }
 
 TEST_F(TranscriptionManagerTest, LastStampAtTheVeryEndGetsNoSegment)
@@ -297,6 +304,28 @@ TEST_F(TranscriptionManagerTest, RepeatedStampsAndTheirSegments)
     // "x" at 2 s is followed by 1 s: negative, no segment; the texts outnumber
     // the segments and the caller then ignores the file.
     EXPECT_EQ(*store.segments(), (SegmentList{{1.0, 1.0}, {1.0, 9.0}}));
+    EXPECT_FALSE(store.loadedWhole()); // the second line was dropped
+}
+
+// Stamps running backwards leave more lines than segments: each row then
+// takes its own line and the lines that got no segment of their own, so a
+// save never writes a row that has no time (it would read back at 0:00).
+TEST_F(TranscriptionManagerTest, LinesWithoutASegmentJoinTheRowThatHoldsTheirTime)
+{
+    total = 20.0;
+    writeFile(path("backwards"), "[00:00.000]zero\n[00:10.000]ten\n[00:05.000]five\n"
+                                 "[00:04.000]\n[00:03.000]three\n[00:02.000]two");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("backwards")));
+    EXPECT_EQ(store.transcriptions().size(), 6);
+    EXPECT_EQ(*store.segments(), (SegmentList{{0.0, 10.0}, {2.0, 18.0}}));
+    EXPECT_EQ(store.textsPerSegment(), (QStringList{"zero", "ten five three two"}));
+
+    writeFile(path("before"), "[00:03.000]three\n[00:01.000]one\n[00:02.000]two");
+    ASSERT_TRUE(store.loadTranscriptionsFromFile(path("before")));
+    EXPECT_EQ(*store.segments(), (SegmentList{{1.0, 1.0}, {2.0, 18.0}}));
+    // "three" joins the last segment that has started by 3 s, before "two",
+    // in the order of the file.
+    EXPECT_EQ(store.textsPerSegment(), (QStringList{"one", "three two"}));
 }
 
 TEST(TranscriptionManagerDuration, ComesFromTheSharedEngineByDefault)
