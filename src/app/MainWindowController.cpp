@@ -135,6 +135,8 @@ void MainWindowController::setupMenus()
     file->addSeparator();
     needsLesson(item(file, "menuImportDictation", Texts::MenuImportDictation,
                      [this] { m_viewController->importTranscription(); }));
+    needsLesson(item(file, "menuRecoverDictation", Texts::MenuRecoverDictation,
+                     [this] { m_viewController->recoverEarlierDictation(); }));
     item(file, "menuImportFromMusic", Texts::MenuImportFromMusic,
          &MainWindowController::toolbarItemImportFromMusicLibrary);
     needsLesson(item(file, "menuAttachReference", Texts::MenuAttachReference,

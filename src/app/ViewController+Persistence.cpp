@@ -35,14 +35,17 @@ void ViewController::initTranscription()
 {
     const QString path = transcriptionStorePath();
     m_storeRefused = false;
+    m_unusedStore.clear();
     if (path.isEmpty() || !m_transcriptions.loadTranscriptionsFromFile(path)) {
         qCInfo(lcApp, "Failed to load transcription");
         using Fault = TranscriptionManager::LoadFault;
         const Fault fault = m_transcriptions.lastLoadFault();
-        if (!path.isEmpty() && (fault == Fault::TooLarge || fault == Fault::NotARegularFile)) {
+        if (!path.isEmpty() && fault == Fault::NotARegularFile) {
             m_storeRefused = true;
             qCWarning(lcApp, "Transcription store file refused, kept and not saved over: %s",
                       qUtf8Printable(m_transcriptions.lastError()));
+        } else if (!path.isEmpty() && fault != Fault::Missing) {
+            m_unusedStore = path; // too large, unreadable, not UTF-8
         }
         initEmptyTranscriptions();
         return;
@@ -50,15 +53,21 @@ void ViewController::initTranscription()
     // A transcript with fewer rows than there are segments belongs to another
     // cutting; it is ignored, not merged.
     if (m_transcriptions.transcriptions().size() < m_engine.numberOfSegments()) {
+        m_unusedStore = path;
         initEmptyTranscriptions();
         return;
     }
     // The boundaries the file was typed under come back with its texts.
     if (!m_engine.updateSegments(m_transcriptions.mutableSegments())) {
+        m_unusedStore = path;
         initEmptyTranscriptions();
         return;
     }
-    m_table->updateTranscriptions(m_transcriptions.transcriptions());
+    // A line skipped or folded onto a neighbour would be gone from the file
+    // after the next save: the file as it was is kept aside then.
+    if (!m_transcriptions.loadedWhole())
+        m_unusedStore = path;
+    m_table->updateTranscriptions(m_transcriptions.textsPerSegment());
 }
 
 void ViewController::initEmptyTranscriptions()
@@ -86,7 +95,8 @@ void ViewController::autoSaveTranscription(bool now)
     const QStringList& texts = m_table->mutableTranscriptions();
     if (texts.isEmpty() || m_currentAudioPath.isEmpty())
         return;
-    if (m_storeRefused) {
+    if (m_storeRefused || (!m_unusedStore.isEmpty() &&
+                           !setAsideUnusedStore(transcriptionStorePath()))) {
         qCInfo(lcApp, "Auto save skipped: the store file was not loaded");
         storeSaveFinished(false);
         return;
@@ -140,7 +150,7 @@ bool ViewController::saveTranscriptionToSandbox()
     if (path.isEmpty())
         return false;
     bool saved = false;
-    if (m_storeRefused)
+    if (m_storeRefused || !setAsideUnusedStore(path))
         qCInfo(lcApp, "Store save skipped: the store file was not loaded");
     else if (QDir().mkpath(QFileInfo(path).path())) // the folder may have been deleted
         saved = m_transcriptions.saveTranscriptionsToFile(path);
@@ -223,10 +233,10 @@ void ViewController::importTranscription()
     importTranscriptionFrom(*path);
 }
 
-void ViewController::importTranscriptionFrom(const QString& path)
+void ViewController::importTranscriptionFrom(const QString& path, bool inTimeOrder)
 {
     qCInfo(lcApp, "Selected file: %s", qUtf8Printable(path));
-    if (!m_transcriptions.loadTranscriptionsFromFile(path)) {
+    if (!m_transcriptions.loadTranscriptionsFromFile(path, inTimeOrder)) {
         using Fault = TranscriptionManager::LoadFault;
         const Fault fault = m_transcriptions.lastLoadFault();
         const char* message = fault == Fault::TooLarge          ? Texts::TranscriptTooLarge
@@ -236,7 +246,11 @@ void ViewController::importTranscriptionFrom(const QString& path)
                                 LocalizedString(Texts::OK));
         return;
     }
-    const QStringList texts = m_transcriptions.transcriptions();
+    if (inTimeOrder)
+        m_transcriptions.orderByTime();
+    // Lines whose stamps run backwards join a neighbour's row: one row per
+    // segment, every word kept.
+    const QStringList texts = m_transcriptions.textsPerSegment();
     const SegmentList segments = m_transcriptions.mutableSegments();
     const double end = segments.isEmpty() ? 0.0 : segments.last().start + segments.last().duration;
     if (m_engine.getTotalDuration() >= end) {

@@ -125,12 +125,21 @@ public:
     // whatever the throttle says (a restart that reopens the lesson).
     void autoSaveTranscription(bool now = false);
     void importTranscription();
-    // The import after its file was chosen.
-    void importTranscriptionFrom(const QString& path);
+    // The import after its file was chosen. `inTimeOrder` recovers a damaged
+    // file: bytes that are not UTF-8 are read as replacement characters and
+    // the lines are put in the order of their stamps.
+    void importTranscriptionFrom(const QString& path, bool inTimeOrder = false);
     void clearTranscription();
     // The application's data folder, created when missing; empty (and a log
     // line) when it cannot be.
     static QString applicationSupportDirectory();
+
+    // ---- Store files that could not be used (ViewController+Recovery.cpp) ----
+    // File -> Recover Earlier Dictation...: the set-aside versions of the open
+    // lesson in a list; the chosen one is read the way an import reads.
+    void recoverEarlierDictation();
+    // The set-aside versions of the open lesson's store file, newest first.
+    QStringList setAsideTranscripts() const;
 
     // ---- Reference text and the check (ViewController+Reference.cpp) ----
     // Asks for a .txt, .srt, .vtt or .lrc file in a panel, then attaches it.
@@ -299,7 +308,13 @@ private:
     QTimer* m_journalSyncTimer = nullptr;
     bool m_replayingJournal = false;
     bool m_lastSaveFailed = false;
-    // The lesson's store file exists but was refused unread (too large, not a
-    // regular file): it is not saved over.
+    // The lesson's store file exists but is not a regular file: it is not
+    // saved over.
     bool m_storeRefused = false;
+    // A store file whose content was not loaded whole; the next save moves it
+    // aside first.
+    QString m_unusedStore;
+    // Moves m_unusedStore aside if `storePath` is about to replace it; false
+    // when it is still in the way.
+    bool setAsideUnusedStore(const QString& storePath);
 };

@@ -482,3 +482,29 @@ inline constexpr std::array SaveFaults = {SaveFailedNotice, LastSaveFailed, Tran
                                           TranscriptNotAFile};
 
 } // namespace Texts
+
+// A store file that could not be used is set aside before a save replaces
+// it, and can be brought back from the File menu.
+namespace Texts {
+
+inline constexpr const char* MenuRecoverDictation =
+    QT_TRANSLATE_NOOP("Localizable", "Recover Earlier &Dictation…");
+inline constexpr const char* StoreSetAside = QT_TRANSLATE_NOOP(
+    "Localizable", "A saved dictation that could not be used was set aside; File → Recover "
+                   "Earlier Dictation… brings it back");
+inline constexpr const char* RecoverTitle =
+    QT_TRANSLATE_NOOP("Localizable", "Recover Earlier Dictation");
+inline constexpr const char* RecoverPrompt = QT_TRANSLATE_NOOP(
+    "Localizable", "Versions of this lesson's dictation that were set aside, newest first:");
+inline constexpr const char* RecoverButton = QT_TRANSLATE_NOOP("Localizable", "Recover");
+inline constexpr const char* NothingSetAside = QT_TRANSLATE_NOOP(
+    "Localizable", "No earlier dictation of this recording was set aside.");
+inline constexpr const char* StoreSetAsideFailed = QT_TRANSLATE_NOOP(
+    "Localizable",
+    "A saved dictation that could not be used could not be set aside; it is not saved over");
+
+inline constexpr std::array Recovery = {MenuRecoverDictation, StoreSetAside,   RecoverTitle,
+                                        RecoverPrompt,        RecoverButton,   NothingSetAside,
+                                        StoreSetAsideFailed};
+
+} // namespace Texts

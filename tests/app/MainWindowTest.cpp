@@ -307,7 +307,7 @@ TEST(MainWindowMenus, F10AndMnemonicsOpenTheMenusAndPlaybackShowsTheKeysBoundNow
     ASSERT_TRUE(waitFor([&] { return menu(h.window(), "menuFile")->isVisible(); }, 2000));
     EXPECT_EQ(itemTexts(menu(h.window(), "menuFile")),
               (QStringList{"&Open…", "Open &Recent", "&Import Dictation…",
-                           "Import from &Music Folder…", "&Attach Reference Text…",
+                           "Recover Earlier &Dictation…", "Import from &Music Folder…", "&Attach Reference Text…",
                            "Remo&ve Reference Text", "&Export Dictation…", "&Quit Kelmora"}));
     // The menus print Qt's own keys the way the six are printed.
     EXPECT_EQ(h.window().findChild<QAction*>("menuOpen")->shortcut().toString(

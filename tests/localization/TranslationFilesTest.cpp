@@ -93,6 +93,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::ReferenceCheck.begin(), Texts::ReferenceCheck.end()));
     texts.append(QList<const char*>(Texts::Journal.begin(), Texts::Journal.end()));
     texts.append(QList<const char*>(Texts::SaveFaults.begin(), Texts::SaveFaults.end()));
+    texts.append(QList<const char*>(Texts::Recovery.begin(), Texts::Recovery.end()));
     return texts;
 }
 

@@ -759,5 +759,33 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>Das Transkript ist keine reguläre Datei und wurde nicht gelesen.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>Frühere &amp;Diktate wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>Ein gespeichertes Diktat, das nicht verwendet werden konnte, wurde beiseitegelegt; Datei → Frühere Diktate wiederherstellen… holt es zurück</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>Frühere Diktate wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>Beiseitegelegte Fassungen des Diktats dieser Lektion, neueste zuerst:</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>Für diese Aufnahme wurde kein früheres Diktat beiseitegelegt.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>Ein gespeichertes Diktat, das nicht verwendet werden konnte, ließ sich nicht beiseitelegen; es wird nicht überschrieben</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,33 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>The transcript is not a regular file and was not read.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>Recover Earlier &amp;Dictation…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>Recover Earlier Dictation</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>Versions of this lesson&apos;s dictation that were set aside, newest first:</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Recover</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>No earlier dictation of this recording was set aside.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>A saved dictation that could not be used could not be set aside; it is not saved over</translation>
+    </message>
 </context>
 </TS>

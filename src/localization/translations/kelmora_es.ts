@@ -759,5 +759,33 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>La transcripción no es un archivo normal y no se ha leído.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>Recuperar &amp;dictado anterior…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>Un dictado guardado que no se pudo usar se ha apartado; Archivo → Recuperar dictado anterior… lo recupera</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>Recuperar dictado anterior</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>Versiones apartadas del dictado de esta lección, de la más reciente a la más antigua:</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Recuperar</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>No se ha apartado ningún dictado anterior de esta grabación.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>Un dictado guardado que no se pudo usar no se pudo apartar; no se sobrescribe</translation>
+    </message>
 </context>
 </TS>

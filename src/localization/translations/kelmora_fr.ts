@@ -759,5 +759,33 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>La transcription n’est pas un fichier ordinaire et n’a pas été lue.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>Récupérer une &amp;dictée antérieure…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>Une dictée enregistrée inutilisable a été mise de côté ; Fichier → Récupérer une dictée antérieure… la rétablit</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>Récupérer une dictée antérieure</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>Versions mises de côté de la dictée de cette leçon, de la plus récente à la plus ancienne :</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>Aucune dictée antérieure de cet enregistrement n’a été mise de côté.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>Une dictée enregistrée inutilisable n’a pas pu être mise de côté ; elle n’est pas écrasée</translation>
+    </message>
 </context>
 </TS>

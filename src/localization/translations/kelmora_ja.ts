@@ -759,5 +759,33 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>トランスクリプトが通常のファイルではないため、読み込みませんでした。</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>以前のディクテーションを復元(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>使用できなかった保存済みのディクテーションを別に保管しました。ファイル → 以前のディクテーションを復元… で戻せます</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>以前のディクテーションを復元</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>別に保管されたこのレッスンのディクテーション(新しい順):</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>この録音について別に保管された以前のディクテーションはありません。</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>使用できなかった保存済みのディクテーションを別に保管できませんでした。上書きはしません</translation>
+    </message>
 </context>
 </TS>

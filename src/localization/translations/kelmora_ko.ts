@@ -759,5 +759,33 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>대본이 일반 파일이 아니어서 읽지 않았습니다.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>이전 받아쓰기 복구(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>사용할 수 없는 저장된 받아쓰기를 따로 보관했습니다. 파일 → 이전 받아쓰기 복구…로 되돌릴 수 있습니다</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>이전 받아쓰기 복구</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>따로 보관된 이 레슨의 받아쓰기 버전(최신순):</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>복구</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>이 녹음에 대해 따로 보관된 이전 받아쓰기가 없습니다.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>사용할 수 없는 저장된 받아쓰기를 따로 보관하지 못했습니다. 덮어쓰지 않습니다</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,33 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>Расшифровка не является обычным файлом и не была прочитана.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>Восстановить прежний &amp;диктант…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>Сохранённый диктант, который не удалось использовать, отложен; Файл → Восстановить прежний диктант… вернёт его</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>Восстановить прежний диктант</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>Отложенные версии диктанта этого урока, сначала новые:</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>Для этой записи нет отложенных прежних диктантов.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>Сохранённый диктант, который не удалось использовать, не удалось отложить; он не перезаписывается</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,33 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>ไฟล์ถอดความไม่ใช่ไฟล์ปกติ จึงไม่ได้อ่าน</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>กู้คืนการเขียนตามคำบอกก่อนหน้า(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>การเขียนตามคำบอกที่บันทึกไว้ซึ่งใช้ไม่ได้ถูกเก็บแยกไว้แล้ว ไฟล์ → กู้คืนการเขียนตามคำบอกก่อนหน้า… จะนำกลับมา</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>กู้คืนการเขียนตามคำบอกก่อนหน้า</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>ฉบับที่ถูกเก็บแยกไว้ของการเขียนตามคำบอกในบทเรียนนี้ ใหม่สุดก่อน:</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>กู้คืน</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>ไม่มีการเขียนตามคำบอกก่อนหน้าของไฟล์เสียงนี้ที่ถูกเก็บแยกไว้</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>ไม่สามารถเก็บแยกการเขียนตามคำบอกที่บันทึกไว้ซึ่งใช้ไม่ได้ จะไม่บันทึกทับ</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,33 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>The transcript is not a regular file and was not read.</source>
         <translation>Bản chép lời không phải là tệp thông thường nên không được đọc.</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>Khôi phục bài &amp;chép chính tả trước…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>Một bài chép chính tả đã lưu không dùng được đã được để riêng; Tệp → Khôi phục bài chép chính tả trước… sẽ lấy lại</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>Khôi phục bài chép chính tả trước</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>Các phiên bản đã để riêng của bài chép chính tả trong bài học này, mới nhất trước:</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Khôi phục</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>Không có bài chép chính tả trước nào của bản ghi âm này được để riêng.</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>Không thể để riêng một bài chép chính tả đã lưu không dùng được; nó không bị ghi đè</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,33 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>字幕文件不是普通文件，未读取。</translation>
     </message>
+    <message>
+        <source>Recover Earlier &amp;Dictation…</source>
+        <translation>恢复之前的听写(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back</source>
+        <translation>无法使用的已保存听写已另行保留；文件 → 恢复之前的听写… 可将其找回</translation>
+    </message>
+    <message>
+        <source>Recover Earlier Dictation</source>
+        <translation>恢复之前的听写</translation>
+    </message>
+    <message>
+        <source>Versions of this lesson&apos;s dictation that were set aside, newest first:</source>
+        <translation>本课听写中另行保留的版本（最新的在前）：</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>No earlier dictation of this recording was set aside.</source>
+        <translation>这段录音没有另行保留的之前的听写。</translation>
+    </message>
+    <message>
+        <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
+        <translation>无法使用的已保存听写无法另行保留；不会覆盖它</translation>
+    </message>
 </context>
 </TS>
