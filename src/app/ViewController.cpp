@@ -113,6 +113,10 @@ void ViewController::buildViews()
     m_statusBarLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_statusBarLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_statusBar->addWidget(m_statusBarLabel, 1);
+    // A message is painted, not a widget: its text is the bar's accessible
+    // description while it shows, so a screen reader can read it.
+    connect(m_statusBar, &QStatusBar::messageChanged, m_statusBar,
+            [bar = m_statusBar](const QString& message) { bar->setAccessibleDescription(message); });
     m_timeLabel = new QLabel(m_statusBar); // reserved for a time display
     m_timeLabel->hide();
     m_statusBarOpacity = new QGraphicsOpacityEffect(m_statusBar);

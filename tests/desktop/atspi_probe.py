@@ -120,6 +120,10 @@ def main(argv):
         bar = until(lambda app: find_role(app, "status bar"), "status bar")
         texts = [text_of(n) for n in walk(bar) if n is not bar and text_of(n)]
         print(" ".join(texts) if texts else text_of(bar))
+    elif command == "status-message":
+        # The message shown over the status text, if any.
+        bar = until(lambda app: find_role(app, "status bar"), "status bar")
+        print(bar.get_description() or "")
     elif command == "buttons":
         app = until(lambda app: app, "application")
         for node in walk(app):

@@ -2,7 +2,8 @@
 # Sourced by the real-window tests: a private home, a real X server (Xvfb) and
 # a private PulseAudio server with one null sink whose monitor is recorded.
 # Expects the caller to be inside its own D-Bus session already. Defines
-# work, pids, probe, until_equal, fail, start_sound, start_window_manager and screenshot;
+# work, pids, probe, until_equal, fail, start_sound, start_window_manager, screenshot
+# and screenshot_window;
 # cleans up on exit.
 
 # A test that has not started its own D-Bus session runs again inside one.
@@ -89,6 +90,14 @@ screenshot() {
   mkdir -p "$shots"
   xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
   ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/$1.png"
+}
+
+# screenshot_window NAME ID: one window into SHOTS/NAME.png. A dialog over the
+# main window reads as black from the root window here, but whole from itself.
+screenshot_window() {
+  mkdir -p "$shots"
+  xwd -id "$2" -silent -display "$DISPLAY" > "$work/window.xwd"
+  ffmpeg -nostdin -v error -y -i "$work/window.xwd" "$shots/$1.png"
 }
 
 # window_named TITLE: waits up to ten seconds for a visible window of that title.

@@ -9,12 +9,18 @@
 # reached the row before the kill must be back; a kill in the middle of the
 # typing may lose only keys that had not arrived.
 #
-# Usage: journal_kill_test.sh KELMORA FIXTURE [KILLS]
+# Then the store file is cut to its first line (a transcript of another
+# cutting) and the journal removed: the next launch shows empty rows, the
+# first save sets the file aside instead of writing over it, and File ->
+# Recover Earlier Dictation... brings the typing back.
+#
+# Usage: journal_kill_test.sh KELMORA FIXTURE SCREENSHOT_DIR [KILLS]
 set -euo pipefail
 
 kelmora="$1"
 fixture="$2"
-kills="${3:-50}"
+shots="$3"
+kills="${4:-50}"
 source "$(dirname "$0")/desktop_session.sh"
 start_desktop
 
@@ -70,3 +76,30 @@ launch
 until_equal "row 0 after the last kill" "$confirmed" probe cell 0 1
 echo "$recovered kills: every character that reached the row came back (${#confirmed} characters)"
 grep -c "Recovered [0-9]* rows of typing" "$work/kelmora.log" | sed 's/^/launches that recovered typing from the journal: /'
+
+# A store file that cannot be used whole is set aside, then recovered.
+kill -9 "$app"
+wait "$app" 2>/dev/null || true
+store="$(find "$HOME" -path '*/Transcriptions/*' -type f ! -name '*.*' | head -n1)"
+[ -n "$store" ] || fail "no store file under $HOME"
+head -n1 "$store" > "$work/cut" && cp "$work/cut" "$store"
+find "$HOME" -type d -name journal -exec rm -rf {} +
+launch
+until_equal "row 0 over a store file of another cutting" "" probe cell 0 1
+# The first save of a launch comes with the open, and moves the file aside.
+until_equal "the status bar's message" \
+  "A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back" \
+  probe status-message
+cmp -s "$work/cut" "$(ls "$store".unused-* | head -n1)" || fail "the set-aside copy is not the file as it was"
+xdotool key alt+f
+sleep 0.3
+xdotool key d
+dialog="$(window_named "Recover Earlier Dictation")" || fail "Alt+F, D opened no recovery dialog"
+xdotool windowactivate --sync "$dialog"
+sleep 0.5 # painted before the picture
+screenshot recover-dictation-window
+screenshot_window recover-dictation "$dialog"
+xdotool key Return
+gone "Recover Earlier Dictation" || fail "the recovery dialog stayed open"
+until_equal "row 0 after Recover" "$confirmed" probe cell 0 1
+echo "a store file of another cutting was set aside whole and Recover brought row 0 back"
