@@ -120,14 +120,17 @@ TEST_P(RealSoundPosition, CurrentTimeNamesTheSampleTheSinkPlaysNow)
     const double from = 1.0;
     const double wall = 2.4; // seconds of listening
     const std::vector<float> ref = reference(from, wall * double(rate), rate);
-    // A listening the machine broke (the sound ran dry) is repeated.
+    // A listening the machine broke is repeated: the sound ran dry, or one
+    // reading was taken late (a preemption between asking the player and
+    // asking the server; seen once under ASan at 10.6 ms). A fault of the
+    // position itself is off in every take.
     Listening heard;
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         heard = listen(*pulse, path, rate, ref, from, wall);
         std::printf("rate %.1f, take %d: %d readings, mean %+.1f ms, worst %.1f ms%s %s\n",
                     double(rate), attempt, heard.readings, heard.mean * 1000, heard.worst * 1000,
                     heard.disturbed ? ", the sound ran dry" : "", qPrintable(heard.error));
-        if (!heard.disturbed)
+        if (!heard.error.isEmpty() || (!heard.disturbed && heard.worst <= kPositionTolerance))
             break;
     }
     ASSERT_TRUE(heard.error.isEmpty()) << heard.error.toStdString();
