@@ -759,5 +759,17 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>Das Transkript ist keine reguläre Datei und wurde nicht gelesen.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora hat ein Diktat gefunden, das zu dieser Aufnahme unter %1 getippt wurde (zuletzt gespeichert %2). Verwenden?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
 </context>
 </TS>

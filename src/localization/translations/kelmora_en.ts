@@ -759,5 +759,17 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>The transcript is not a regular file and was not read.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Use It</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Not Now</translation>
+    </message>
 </context>
 </TS>

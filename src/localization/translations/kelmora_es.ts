@@ -759,5 +759,17 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>La transcripción no es un archivo normal y no se ha leído.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora ha encontrado un dictado escrito para esta grabación en %1 (guardado por última vez %2). ¿Usarlo?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usarlo</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Ahora no</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,17 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>La transcription n’est pas un fichier ordinaire et n’a pas été lue.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora a trouvé une dictée tapée pour cet enregistrement à l’emplacement %1 (dernier enregistrement : %2). L’utiliser ?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>L’utiliser</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Pas maintenant</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>トランスクリプトが通常のファイルではないため、読み込みませんでした。</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora は、この録音のために %1 で入力されたディクテーションを見つけました（最終保存 %2）。使用しますか？</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>使用する</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>今はしない</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>대본이 일반 파일이 아니어서 읽지 않았습니다.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora가 이 녹음에 대해 %1에서 입력한 받아쓰기를 찾았습니다(마지막 저장: %2). 사용하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>사용</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>나중에</translation>
+    </message>
 </context>
 </TS>

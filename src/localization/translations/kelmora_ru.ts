@@ -759,5 +759,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>Расшифровка не является обычным файлом и не была прочитана.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora нашла диктант, набранный для этой записи в %1 (последнее сохранение: %2). Использовать его?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Использовать</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Не сейчас</translation>
+    </message>
 </context>
 </TS>

@@ -759,5 +759,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>ไฟล์ถอดความไม่ใช่ไฟล์ปกติ จึงไม่ได้อ่าน</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora พบคำบอกที่พิมพ์ไว้สำหรับเสียงบันทึกนี้ที่ %1 (บันทึกล่าสุดเมื่อ %2) ต้องการใช้หรือไม่</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>ใช้</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>ไม่ใช่ตอนนี้</translation>
+    </message>
 </context>
 </TS>

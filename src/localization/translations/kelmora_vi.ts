@@ -759,5 +759,17 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>The transcript is not a regular file and was not read.</source>
         <translation>Bản chép lời không phải là tệp thông thường nên không được đọc.</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora đã tìm thấy một bài chính tả được gõ cho bản ghi âm này tại %1 (lưu lần cuối %2). Dùng bài này?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Dùng</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Để sau</translation>
+    </message>
 </context>
 </TS>

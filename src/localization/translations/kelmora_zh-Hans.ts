@@ -759,5 +759,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>The transcript is not a regular file and was not read.</source>
         <translation>字幕文件不是普通文件，未读取。</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora 找到了在 %1 为此录音输入的听写（上次保存于 %2）。要使用吗？</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>以后再说</translation>
+    </message>
 </context>
 </TS>
