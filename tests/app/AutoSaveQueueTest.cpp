@@ -5,7 +5,6 @@
 #include "AutoSaveKillSupport.h"
 #include "app/FileIdentity.h"
 #include "support/TestSupport.h"
-#include "transcript/FingerprintIndex.h"
 #include "transcript/LrcLine.h"
 
 #include <QCoreApplication>
@@ -39,15 +38,6 @@ TEST(AutoSaveQueue, WritesOneLrcLinePerRowUnderTheAudioFilesIdentity)
     EXPECT_EQ(TestSupport::readFile(folder.filePath(identifier)),
               "[00:00.000]one\n[00:01.001]\n[00:12.340]three");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{identifier});
-
-    // With the recording's fingerprint the index learns where its rows went.
-    snapshot.fingerprint = QString(64, u'f');
-    ASSERT_TRUE(AutoSaveQueue::save(snapshot, &identifier));
-    const std::optional<FingerprintIndex::Entry> entry =
-        FingerprintIndex(folder.path()).lookup(snapshot.fingerprint);
-    ASSERT_TRUE(entry);
-    EXPECT_EQ(entry->identity, identifier);
-    EXPECT_EQ(entry->audioPath, fixture("speech.wav"));
 
     // A row past the last segment is stamped at 0, as the table stamps it.
     snapshot.starts = {0.0};
