@@ -5,6 +5,7 @@
 #include "common/DurableWrite.h"
 #include "common/Log.h"
 #include "common/ThreadHandOff.h"
+#include "transcript/FingerprintIndex.h"
 #include "transcript/LrcLine.h"
 #include "transcript/TranscriptionManager.h"
 
@@ -139,5 +140,10 @@ bool AutoSaveQueue::save(const Snapshot& snapshot, QString* identifierOut)
         qCInfo(lcApp, "Failed to replace file: %s", qUtf8Printable(error));
         return false;
     }
+    if (!snapshot.fingerprint.isEmpty() &&
+        !FingerprintIndex(snapshot.transcriptionsFolder)
+             .record(snapshot.fingerprint,
+                     {*identifier, snapshot.audioPath, QDateTime::currentDateTimeUtc()}, &error))
+        qCWarning(lcApp, "Fingerprint index not updated: %s", qUtf8Printable(error));
     return true;
 }

@@ -29,6 +29,9 @@ public:
         QString transcriptionsFolder; // where store files live
         QStringList texts;            // one per row, as typed
         QList<double> starts;         // the segment start of each row (0 past the last)
+        // The recording's content fingerprint, recorded in the store's index
+        // with the identity once the rows are on disk; empty records nothing.
+        QString fingerprint{};
     };
 
     // Called back on the main thread with the outcome and the identity.
@@ -53,8 +56,9 @@ public:
     double lastAutoSaveTime() const { return m_lastAutoSaveTime; }
 
     // The job itself, on the calling thread: the store folder made again if it
-    // went, then the lines written durably over the store file. Returns
-    // whether they reached the disk; the
+    // went, then the lines written durably over the store file, then the
+    // fingerprint's entry in the index. Returns whether the lines reached the
+    // disk (an index that cannot be written costs a warning only); the
     // identity is the store file's name (empty when the audio file cannot be
     // examined).
     static bool save(const Snapshot& snapshot, QString* identifier = nullptr);

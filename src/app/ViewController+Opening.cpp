@@ -110,6 +110,7 @@ void ViewController::finishOpening(bool success, const QString& path)
     } else {
         m_currentAudioPath = loaded;
         initTranscription();
+        offerDictationFoundElsewhere(); // before the rows are shown, which saves them
         openLessonJournal();
         const QFileInfo file(loaded);
         qCInfo(lcApp, "File name with extension: %s", qUtf8Printable(file.fileName()));

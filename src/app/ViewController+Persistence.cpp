@@ -93,7 +93,7 @@ void ViewController::autoSaveTranscription(bool now)
     if (!now && m_autoSave.isThrottled())
         return;
     const QStringList& texts = m_table->mutableTranscriptions();
-    if (texts.isEmpty() || m_currentAudioPath.isEmpty())
+    if (texts.isEmpty() || m_currentAudioPath.isEmpty() || m_foundDictationSheet)
         return;
     if (m_storeRefused || (!m_unusedStore.isEmpty() &&
                            !setAsideUnusedStore(transcriptionStorePath()))) {
@@ -108,6 +108,7 @@ void ViewController::autoSaveTranscription(bool now)
     snapshot.transcriptionsFolder =
         m_documents.pathForFilename(DocumentManager::TranscriptionsFolder);
     snapshot.texts = texts;
+    snapshot.fingerprint = fingerprintForSave();
     const SegmentList& segments = m_engine.segments();
     snapshot.starts.reserve(texts.size());
     for (qsizetype i = 0; i < texts.size(); ++i)
@@ -154,6 +155,8 @@ bool ViewController::saveTranscriptionToSandbox()
         qCInfo(lcApp, "Store save skipped: the store file was not loaded");
     else if (QDir().mkpath(QFileInfo(path).path())) // the folder may have been deleted
         saved = m_transcriptions.saveTranscriptionsToFile(path);
+    if (saved)
+        recordFingerprint(*identifier);
     storeSaveFinished(saved);
     return saved;
 }

@@ -158,6 +158,10 @@ public:
     // Commits what the journal holds to the disk now (row changes, quit).
     void syncJournal();
 
+    // ---- A dictation found again (ViewController+Fingerprint.cpp) ----
+    // The content fingerprint of the lesson shown; empty before the first.
+    QString contentFingerprint() const { return m_contentFingerprint; }
+
     // ---- Status bar and title (ViewController+StatusBar.cpp) ----
     void updateStatusBar();
     void changeWindowTitle(const QString& title);
@@ -219,6 +223,18 @@ private:
     // A save into the store ended: a failure puts up a notice that stays
     // until a later save succeeds.
     void storeSaveFinished(bool saved);
+
+    // A dictation found again (ViewController+Fingerprint.cpp)
+    // In an opening, once the store was read: the lesson's fingerprint is
+    // taken, and when the file has no transcript of its own but the store's
+    // index knows one for its audio, a sheet offers it.
+    void offerDictationFoundElsewhere();
+    // "Use It": the dictation is copied to this file's identity and loaded.
+    void useDictationFoundElsewhere(const QString& audioPath, const QString& from);
+    // The fingerprint a save records: none while every row is empty.
+    QString fingerprintForSave() const;
+    // A save on this thread wrote the identity's transcript.
+    void recordFingerprint(const QString& identifier);
 
     // Typing journal (ViewController+Journal.cpp)
     void buildJournal();
@@ -302,6 +318,12 @@ private:
     QSet<qint64> m_checkedRows;
     QHash<qint64, int> m_hints;
     quint64 m_referenceReads = 0; // drops a read that a newer one overtook
+
+    // The content fingerprint of the lesson shown, and the sheet offering a
+    // dictation found for it while it waits for an answer (nothing is saved
+    // meanwhile).
+    QString m_contentFingerprint;
+    QPointer<QWidget> m_foundDictationSheet;
 
     // The typing journal of the lesson shown.
     std::unique_ptr<TypingJournal> m_journal;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "common/DurableWrite.h"
 
+#include "common/FileStat.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -57,35 +59,23 @@ bool writeAll(int fd, const QByteArray& bytes)
     return true;
 }
 
-} // namespace
-
-bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* error)
+// The bytes in a new temporary file beside the target, written and synced;
+// its name in `temp`. A target that exists lends it its permissions.
+bool writeTempBeside(const QByteArray& target, const QByteArray& bytes, QByteArray* temp, int* code)
 {
-    const auto fail = [&](const QString& what, int code) {
-        if (error)
-            *error = QStringLiteral("%1: %2").arg(what, reason(code));
-        return false;
-    };
-    const QByteArray target = QFile::encodeName(path);
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
-
-    // A name of its own, so two writers of the same target never share one.
-    QByteArray temp;
     int fd = -1;
+    // A name of its own, so two writers of the same target never share one.
     for (int attempt = 0; attempt < 16 && fd < 0; ++attempt) {
-        temp = target + ".temp-" + QByteArray::number(QRandomGenerator::global()->generate(), 16);
-        fd = ::open(temp.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0666);
+        *temp = target + ".temp-" + QByteArray::number(QRandomGenerator::global()->generate(), 16);
+        fd = ::open(temp->constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0666);
         if (fd < 0 && errno != EEXIST)
             break;
     }
-    if (fd < 0)
-        return fail(path, errno);
+    if (fd < 0) {
+        *code = errno;
+        return false;
+    }
     Descriptor file(fd);
-    const auto failAndRemove = [&](int code) {
-        ::unlink(temp.constData());
-        return fail(path, code);
-    };
-
     // A file that is replaced keeps who may read it.
     struct stat old
     {
@@ -93,18 +83,67 @@ bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* err
     if (::stat(target.constData(), &old) == 0 && S_ISREG(old.st_mode))
         ::fchmod(file.get(), old.st_mode & 07777);
 
-    if (!writeAll(file.get(), bytes))
-        return failAndRemove(errno);
-    // A full disk or a quota often shows only here, at the write-back.
-    if (::fsync(file.get()) != 0)
-        return failAndRemove(errno);
-    if (::close(file.release()) != 0)
-        return failAndRemove(errno);
-    if (::rename(temp.constData(), target.constData()) != 0)
-        return failAndRemove(errno);
+    // A full disk or a quota often shows only at the fsync, at the write-back.
+    if (!writeAll(file.get(), bytes) || ::fsync(file.get()) != 0 || ::close(file.release()) != 0) {
+        *code = errno;
+        ::unlink(temp->constData());
+        return false;
+    }
+    return true;
+}
 
+void failure(QString* error, const QString& what, int code)
+{
+    if (error)
+        *error = QStringLiteral("%1: %2").arg(what, reason(code));
+}
+
+} // namespace
+
+bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* error)
+{
+    const QByteArray target = QFile::encodeName(path);
+    QByteArray temp;
+    int code = 0;
+    if (!writeTempBeside(target, bytes, &temp, &code)) {
+        failure(error, path, code);
+        return false;
+    }
+    if (::rename(temp.constData(), target.constData()) != 0) {
+        code = errno;
+        ::unlink(temp.constData());
+        failure(error, path, code);
+        return false;
+    }
     // The rename is durable only once the folder is.
-    return syncFolder(QString::fromLocal8Bit(folder), error);
+    return syncFolder(QFileInfo(path).absolutePath(), error);
+}
+
+CopyOutcome copyFileDurably(const QString& from, const QString& to, qint64 maxBytes, QString* error)
+{
+    bool missing = false;
+    const std::optional<QByteArray> bytes = readRegularFile(from, maxBytes, error, &missing);
+    if (!bytes)
+        return missing ? CopyOutcome::NoSource : CopyOutcome::Failed;
+    const QByteArray target = QFile::encodeName(to);
+    QByteArray temp;
+    int code = 0;
+    if (!writeTempBeside(target, *bytes, &temp, &code)) {
+        failure(error, to, code);
+        return CopyOutcome::Failed;
+    }
+    // link() fails when the target exists, where rename() would replace it.
+    const int linked = ::link(temp.constData(), target.constData());
+    code = errno;
+    ::unlink(temp.constData());
+    if (linked != 0) {
+        if (code == EEXIST)
+            return CopyOutcome::TargetExists;
+        failure(error, to, code);
+        return CopyOutcome::Failed;
+    }
+    return syncFolder(QFileInfo(to).absolutePath(), error) ? CopyOutcome::Copied
+                                                           : CopyOutcome::Failed;
 }
 
 bool syncFolder(const QString& folder, QString* error)

@@ -13,6 +13,20 @@
 // `error` gets "path: reason".
 bool writeFileDurably(const QString& path, const QByteArray& bytes, QString* error = nullptr);
 
+enum class CopyOutcome
+{
+    Copied,
+    NoSource,     // there is no file at `from`
+    TargetExists, // `to` was there already and is left as it was
+    Failed,       // `error` says why; `to` was not made
+};
+
+// Copies a regular file of at most `maxBytes` to a new file as durably as
+// writeFileDurably writes, but never replaces a file: the new one appears at
+// `to` whole, or not at all.
+CopyOutcome copyFileDurably(const QString& from, const QString& to, qint64 maxBytes,
+                            QString* error = nullptr);
+
 // fsync of a folder, so that a rename or a new file in it is on the disk. A
 // file system that cannot sync a folder counts as done. False (and `error`)
 // when the folder cannot be opened or synced.

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <unistd.h>
 
 namespace {
 
@@ -74,4 +75,56 @@ std::optional<FileStat> statFile(const QString& path, bool followSymlinks, QStri
     st.ownerId = sx.stx_uid;
     st.groupId = sx.stx_gid;
     return st;
+}
+
+std::optional<QByteArray> readRegularFile(const QString& path, qint64 maxBytes, QString* error,
+                                          bool* missing)
+{
+    const auto fail = [&](const QString& reason) -> std::optional<QByteArray> {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(path, reason);
+        return std::nullopt;
+    };
+    if (missing)
+        *missing = false;
+    const int fd =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0) {
+        if (missing)
+            *missing = errno == ENOENT;
+        return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    }
+    struct Closer
+    {
+        int fd;
+        ~Closer() { ::close(fd); }
+    } closer{fd};
+    struct stat info
+    {
+    };
+    if (::fstat(fd, &info) != 0)
+        return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    if (!S_ISREG(info.st_mode))
+        return fail(QStringLiteral("not a regular file"));
+    if (info.st_size > maxBytes)
+        return fail(QStringLiteral("larger than %1 bytes").arg(maxBytes));
+    // One byte more than allowed is asked for, to notice a file that grew.
+    QByteArray bytes(qsizetype(info.st_size) + 1, Qt::Uninitialized);
+    qsizetype got = 0;
+    while (got < bytes.size()) {
+        const ssize_t n = ::read(fd, bytes.data() + got, size_t(bytes.size() - got));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return fail(QString::fromLocal8Bit(std::strerror(errno)));
+        if (n == 0)
+            break;
+        got += n;
+        if (got > maxBytes)
+            return fail(QStringLiteral("larger than %1 bytes").arg(maxBytes));
+        if (got == bytes.size())
+            bytes.resize(qMin<qint64>(maxBytes + 1, bytes.size() * 2));
+    }
+    bytes.truncate(got);
+    return bytes;
 }

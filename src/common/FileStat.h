@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <optional>
@@ -33,3 +34,10 @@ struct FileStat
 // `error` if given.
 std::optional<FileStat> statFile(const QString& path, bool followSymlinks,
                                  QString* error = nullptr);
+
+// The whole content of a regular file of at most `maxBytes`. The file is
+// opened without waiting and examined before it is read, so a FIFO or a
+// device is refused, never waited on. Nothing on failure, with the reason in
+// `error`; `missing` says whether the reason is that there is no such file.
+std::optional<QByteArray> readRegularFile(const QString& path, qint64 maxBytes,
+                                          QString* error = nullptr, bool* missing = nullptr);

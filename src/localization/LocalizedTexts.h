@@ -508,3 +508,18 @@ inline constexpr std::array Recovery = {MenuRecoverDictation, StoreSetAside,   R
                                         StoreSetAsideFailed};
 
 } // namespace Texts
+
+// A dictation typed for the same recording under another file (moved, copied
+// or re-tagged): the sheet offering it when a lesson opens with none. %1 is
+// the audio file it was saved for, %2 when.
+namespace Texts {
+
+inline constexpr const char* FoundDictation = QT_TRANSLATE_NOOP(
+    "Localizable",
+    "Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?");
+inline constexpr const char* UseIt = QT_TRANSLATE_NOOP("Localizable", "Use It");
+inline constexpr const char* NotNow = QT_TRANSLATE_NOOP("Localizable", "Not Now");
+
+inline constexpr std::array Fingerprint = {FoundDictation, UseIt, NotNow};
+
+} // namespace Texts

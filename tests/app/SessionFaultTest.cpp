@@ -16,6 +16,7 @@
 #include "localization/LocalizedTexts.h"
 #include "support/TestSupport.h"
 #include "transcript/DocumentManager.h"
+#include "transcript/FingerprintIndex.h"
 #include "views/TranscriptionTableView.h"
 
 #include <QApplication>
@@ -77,9 +78,13 @@ protected:
 
     QString statusMessage() { return h.session().statusBar()->currentMessage(); }
 
+    // Every file there but the fingerprint index the store keeps beside them.
     QStringList storeFolderEntries() const
     {
-        return QDir(store).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+        QStringList entries =
+            QDir(store).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+        entries.removeAll(FingerprintIndex::FileName);
+        return entries;
     }
 
     WindowHarness h;

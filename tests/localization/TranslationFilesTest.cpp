@@ -73,13 +73,18 @@ QString tsPath(const QString& code)
     return QStringLiteral(KELMORA_TRANSLATIONS_DIR "/kelmora_%1.ts").arg(code);
 }
 
+// Numbered placeholders ("%1") may change places in a language; the others
+// are filled in order and keep it.
 QStringList placeholders(const QString& text)
 {
-    static const QRegularExpression re(QStringLiteral("%(?:@|llu|lu|ld|d|%)"));
-    QStringList found;
-    for (auto it = re.globalMatch(text); it.hasNext();)
-        found << it.next().captured();
-    return found;
+    static const QRegularExpression re(QStringLiteral("%(?:@|llu|lu|ld|d|%|[1-9])"));
+    QStringList found, numbered;
+    for (auto it = re.globalMatch(text); it.hasNext();) {
+        const QString placeholder = it.next().captured();
+        (placeholder.back().isDigit() ? numbered : found) << placeholder;
+    }
+    numbered.sort();
+    return found + numbered;
 }
 
 // Every list of texts in LocalizedTexts.h.
@@ -94,6 +99,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::Journal.begin(), Texts::Journal.end()));
     texts.append(QList<const char*>(Texts::SaveFaults.begin(), Texts::SaveFaults.end()));
     texts.append(QList<const char*>(Texts::Recovery.begin(), Texts::Recovery.end()));
+    texts.append(QList<const char*>(Texts::Fingerprint.begin(), Texts::Fingerprint.end()));
     return texts;
 }
 

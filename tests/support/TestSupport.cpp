@@ -46,6 +46,24 @@ CliResult runCli(const QStringList& args, const QMap<QString, QString>& environm
     return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
 }
 
+bool runFfmpeg(const QStringList& args)
+{
+    QProcess p;
+    const QStringList quiet{"-nostdin", "-v", "error", "-y"};
+    p.start(QStringLiteral("ffmpeg"), quiet + args);
+    const bool finished = p.waitForFinished(60000);
+    if (!finished || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0) {
+        ADD_FAILURE() << "ffmpeg " << args.join(' ').toStdString() << ": "
+                      << p.readAllStandardError().toStdString();
+        if (!finished) {
+            p.kill();
+            p.waitForFinished();
+        }
+        return false;
+    }
+    return true;
+}
+
 QByteArray readFile(const QString& path)
 {
     QFile file(path);

@@ -30,6 +30,10 @@ struct CliResult
 CliResult runCli(const QStringList& args, const QMap<QString, QString>& environment = {},
                  const QString& workingDirectory = {});
 
+// Runs ffmpeg (quiet, never asking) with the arguments; a failure fails the
+// test and returns false.
+bool runFfmpeg(const QStringList& args);
+
 // A whole file's bytes; a file that cannot be read fails the test.
 QByteArray readFile(const QString& path);
 // Writes the bytes as the whole file; a failure fails the test.

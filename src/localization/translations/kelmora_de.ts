@@ -787,5 +787,17 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>Ein gespeichertes Diktat, das nicht verwendet werden konnte, ließ sich nicht beiseitelegen; es wird nicht überschrieben</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora hat ein Diktat gefunden, das zu dieser Aufnahme unter %1 getippt wurde (zuletzt gespeichert %2). Verwenden?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
 </context>
 </TS>

@@ -787,5 +787,17 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>A saved dictation that could not be used could not be set aside; it is not saved over</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Use It</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Not Now</translation>
+    </message>
 </context>
 </TS>

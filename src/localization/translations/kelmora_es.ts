@@ -787,5 +787,17 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>Un dictado guardado que no se pudo usar no se pudo apartar; no se sobrescribe</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora ha encontrado un dictado escrito para esta grabación en %1 (guardado por última vez %2). ¿Usarlo?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usarlo</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Ahora no</translation>
+    </message>
 </context>
 </TS>

@@ -787,5 +787,17 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>Une dictée enregistrée inutilisable n’a pas pu être mise de côté ; elle n’est pas écrasée</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora a trouvé une dictée tapée pour cet enregistrement à l’emplacement %1 (dernier enregistrement : %2). L’utiliser ?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>L’utiliser</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Pas maintenant</translation>
+    </message>
 </context>
 </TS>

@@ -787,5 +787,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>使用できなかった保存済みのディクテーションを別に保管できませんでした。上書きはしません</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora は、この録音のために %1 で入力されたディクテーションを見つけました（最終保存 %2）。使用しますか？</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>使用する</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>今はしない</translation>
+    </message>
 </context>
 </TS>

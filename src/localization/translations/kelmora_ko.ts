@@ -787,5 +787,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>사용할 수 없는 저장된 받아쓰기를 따로 보관하지 못했습니다. 덮어쓰지 않습니다</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora가 이 녹음에 대해 %1에서 입력한 받아쓰기를 찾았습니다(마지막 저장: %2). 사용하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>사용</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>나중에</translation>
+    </message>
 </context>
 </TS>

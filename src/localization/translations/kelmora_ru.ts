@@ -787,5 +787,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>Сохранённый диктант, который не удалось использовать, не удалось отложить; он не перезаписывается</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora нашла диктант, набранный для этой записи в %1 (последнее сохранение: %2). Использовать его?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Использовать</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Не сейчас</translation>
+    </message>
 </context>
 </TS>

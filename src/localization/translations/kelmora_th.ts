@@ -787,5 +787,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>ไม่สามารถเก็บแยกการเขียนตามคำบอกที่บันทึกไว้ซึ่งใช้ไม่ได้ จะไม่บันทึกทับ</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora พบคำบอกที่พิมพ์ไว้สำหรับเสียงบันทึกนี้ที่ %1 (บันทึกล่าสุดเมื่อ %2) ต้องการใช้หรือไม่</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>ใช้</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>ไม่ใช่ตอนนี้</translation>
+    </message>
 </context>
 </TS>

@@ -787,5 +787,17 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>Không thể để riêng một bài chép chính tả đã lưu không dùng được; nó không bị ghi đè</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora đã tìm thấy một bài chính tả được gõ cho bản ghi âm này tại %1 (lưu lần cuối %2). Dùng bài này?</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Dùng</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Để sau</translation>
+    </message>
 </context>
 </TS>

@@ -787,5 +787,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>A saved dictation that could not be used could not be set aside; it is not saved over</source>
         <translation>无法使用的已保存听写无法另行保留；不会覆盖它</translation>
     </message>
+    <message>
+        <source>Kelmora found a dictation typed for this recording at %1 (last saved %2). Use it?</source>
+        <translation>Kelmora 找到了在 %1 为此录音输入的听写（上次保存于 %2）。要使用吗？</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>以后再说</translation>
+    </message>
 </context>
 </TS>
