@@ -50,15 +50,16 @@ void ViewController::initTranscription()
         initEmptyTranscriptions();
         return;
     }
-    // A transcript with fewer rows than there are segments belongs to another
-    // cutting; it is ignored, not merged.
-    if (m_transcriptions.transcriptions().size() < m_engine.numberOfSegments()) {
-        m_unusedStore = path;
-        initEmptyTranscriptions();
-        return;
-    }
-    // The boundaries the file was typed under come back with its texts.
-    if (!m_engine.updateSegments(m_transcriptions.mutableSegments())) {
+    // The boundaries the file was typed under come back with its texts,
+    // whatever their number: a dictation recovered or imported, or typed
+    // before the shortest-segment setting changed, has fewer rows than a
+    // fresh cutting, and dropping it would throw the learner's work away.
+    // Starts that rise, each within the audio, are the test.
+    const SegmentList& segments = m_transcriptions.mutableSegments();
+    bool rising = true;
+    for (qsizetype i = 1; i < segments.size(); ++i)
+        rising = rising && segments[i].start > segments[i - 1].start;
+    if (!rising || !m_engine.updateSegments(segments)) {
         m_unusedStore = path;
         initEmptyTranscriptions();
         return;

@@ -176,11 +176,12 @@ TEST_F(SessionFaults, ImportRefusesFifosDevicesAndHugeFilesWithAMessage)
     }
 }
 
-TEST_F(SessionFaults, AStoreFileThatIsNotTextOrIsOneHugeLineOpensWithEmptyRows)
+TEST_F(SessionFaults, AStoreFileThatIsNotTextOrIsOneHugeLineOpensWithoutAFreeze)
 {
+    const QByteArray huge = QByteArray(10 * 1024 * 1024, 'a');
     for (const QByteArray& content :
          {QByteArray("[00:00.000]caf\xe9 \xff\xfe not UTF-8\n[00:01.000]x"),
-          QByteArray("[00:00.000]") + QByteArray(10 * 1024 * 1024, 'a')}) {
+          QByteArray("[00:00.000]") + huge}) {
         ::umount2(QFile::encodeName(store).constData(), MNT_DETACH);
         mounted = false;
         {
@@ -190,7 +191,12 @@ TEST_F(SessionFaults, AStoreFileThatIsNotTextOrIsOneHugeLineOpensWithEmptyRows)
         }
         ASSERT_TRUE(h.open(fixture("lesson_95s.wav")));
         EXPECT_EQ(table->model()->rowCount(), h.engine().numberOfSegments());
-        EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
         EXPECT_TRUE(h.engine().isPlaying());
+        // Text that is not UTF-8 gives empty rows; one huge line is one row
+        // over the whole recording, the cutting the file holds.
+        if (content.size() < huge.size())
+            EXPECT_TRUE(table->mutableTranscriptions().join(QString()).isEmpty());
+        else
+            EXPECT_EQ(table->mutableTranscriptions(), QStringList{QString::fromLatin1(huge)});
     }
 }

@@ -9,10 +9,14 @@
 # reached the row before the kill must be back; a kill in the middle of the
 # typing may lose only keys that had not arrived.
 #
-# Then the store file is cut to its first line (a transcript of another
-# cutting) and the journal removed: the next launch shows empty rows, the
+# Then the store file gets a byte that is not UTF-8 at its end (a damaged
+# block) and the journal is removed: the next launch shows empty rows, the
 # first save sets the file aside instead of writing over it, and File ->
 # Recover Earlier Dictation... brings the typing back.
+#
+# Last, the recording is copied elsewhere: opening the copy, which has no
+# transcript of its own, offers the dictation found for the same audio, and
+# "Use It" (the default button, Return) brings row 0 back.
 #
 # Usage: journal_kill_test.sh KELMORA FIXTURE SCREENSHOT_DIR [KILLS]
 set -euo pipefail
@@ -28,7 +32,7 @@ title="$(basename "${fixture%.*}")"
 RANDOM=20261125 # the same kill moments every run
 
 launch() {
-  "$kelmora" "$fixture" >> "$work/kelmora.log" 2>&1 &
+  "$kelmora" "${1:-$fixture}" >> "$work/kelmora.log" 2>&1 &
   app=$!
   pids+=($app)
   probe wait-window "$title" > /dev/null || fail "no window titled $title"
@@ -82,10 +86,10 @@ kill -9 "$app"
 wait "$app" 2>/dev/null || true
 store="$(find "$HOME" -path '*/Transcriptions/*' -type f ! -name '*.*' | head -n1)"
 [ -n "$store" ] || fail "no store file under $HOME"
-head -n1 "$store" > "$work/cut" && cp "$work/cut" "$store"
+{ cat "$store"; printf '\xff'; } > "$work/cut" && cp "$work/cut" "$store"
 find "$HOME" -type d -name journal -exec rm -rf {} +
 launch
-until_equal "row 0 over a store file of another cutting" "" probe cell 0 1
+until_equal "row 0 over a damaged store file" "" probe cell 0 1
 # The first save of a launch comes with the open, and moves the file aside.
 until_equal "the status bar's message" \
   "A saved dictation that could not be used was set aside; File → Recover Earlier Dictation… brings it back" \
@@ -102,4 +106,24 @@ screenshot_window recover-dictation "$dialog"
 xdotool key Return
 gone "Recover Earlier Dictation" || fail "the recovery dialog stayed open"
 until_equal "row 0 after Recover" "$confirmed" probe cell 0 1
-echo "a store file of another cutting was set aside whole and Recover brought row 0 back"
+echo "a damaged store file was set aside whole and Recover brought row 0 back"
+
+# The recovered rows reach the store (and its fingerprint index) at the next
+# save, five seconds after the last.
+sleep 5.2
+xdotool key Down
+for _ in $(seq 25); do grep -q "$confirmed" "$store" 2>/dev/null && break; sleep 0.2; done
+grep -q "$confirmed" "$store" || fail "the recovered row was not saved"
+kill -9 "$app"
+wait "$app" 2>/dev/null || true
+mkdir -p "$work/moved"
+cp "$fixture" "$work/moved/$(basename "$fixture")"
+launch "$work/moved/$(basename "$fixture")"
+sheet="$(window_named "Kelmora")" || fail "opening a copy of the recording offered nothing"
+xdotool windowactivate --sync "$sheet"
+sleep 0.5 # painted before the picture
+screenshot_window found-dictation "$sheet"
+xdotool key Return
+gone "Kelmora" || fail "the sheet stayed open"
+until_equal "row 0 of the copy after Use It" "$confirmed" probe cell 0 1
+echo "a copy of the recording found its dictation, and Use It brought row 0 back"
