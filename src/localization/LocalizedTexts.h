@@ -523,3 +523,43 @@ inline constexpr const char* NotNow = QT_TRANSLATE_NOOP("Localizable", "Not Now"
 inline constexpr std::array Fingerprint = {FoundDictation, UseIt, NotNow};
 
 } // namespace Texts
+
+// Fixing the cutting by hand: split, merge, a moved boundary, and their undo.
+// %@ in MenuUndoNamed and MenuRedoNamed is the command's name.
+namespace Texts {
+
+inline constexpr const char* MenuSplitSegment =
+    QT_TRANSLATE_NOOP("Localizable", "Spli&t Segment at Play Head");
+inline constexpr const char* MenuMergeSegments =
+    QT_TRANSLATE_NOOP("Localizable", "&Merge with Next Segment");
+inline constexpr const char* MenuUndo = QT_TRANSLATE_NOOP("Localizable", "&Undo");
+inline constexpr const char* MenuRedo = QT_TRANSLATE_NOOP("Localizable", "&Redo");
+inline constexpr const char* MenuUndoNamed = QT_TRANSLATE_NOOP("Localizable", "&Undo %@");
+inline constexpr const char* MenuRedoNamed = QT_TRANSLATE_NOOP("Localizable", "&Redo %@");
+inline constexpr const char* EditSplit = QT_TRANSLATE_NOOP("Localizable", "Split Segment");
+inline constexpr const char* EditMerge = QT_TRANSLATE_NOOP("Localizable", "Merge Segments");
+inline constexpr const char* EditMove = QT_TRANSLATE_NOOP("Localizable", "Move Boundary");
+inline constexpr const char* EditClear = QT_TRANSLATE_NOOP("Localizable", "Clear Dictation");
+inline constexpr const char* EditImport = QT_TRANSLATE_NOOP("Localizable", "Import Dictation");
+inline constexpr const char* ToolbarSplit = QT_TRANSLATE_NOOP("Localizable", "Split");
+inline constexpr const char* TipSplit =
+    QT_TRANSLATE_NOOP("Localizable", "Split the segment in two at the play head");
+inline constexpr const char* SplitRefused = QT_TRANSLATE_NOOP(
+    "Localizable",
+    "Nothing was split: each part of a segment must be at least 0.1 seconds long");
+inline constexpr const char* MenuStartEarlier =
+    QT_TRANSLATE_NOOP("Localizable", "Move Segment Start &Earlier");
+inline constexpr const char* MenuStartLater =
+    QT_TRANSLATE_NOOP("Localizable", "Move Segment Start &Later");
+inline constexpr const char* ShortcutSplit =
+    QT_TRANSLATE_NOOP("Localizable", "Split segment");
+inline constexpr const char* ShortcutMerge =
+    QT_TRANSLATE_NOOP("Localizable", "Merge with next");
+
+inline constexpr std::array Cutting = {
+    MenuSplitSegment, MenuMergeSegments, MenuUndo,  MenuRedo,     MenuUndoNamed, MenuRedoNamed,
+    EditSplit,        EditMerge,         EditMove,  EditClear,    EditImport,    ToolbarSplit,
+    TipSplit,         SplitRefused,      MenuStartEarlier, MenuStartLater, ShortcutSplit,
+    ShortcutMerge};
+
+} // namespace Texts
