@@ -68,6 +68,12 @@ void KeyDownMonitor::perform(ShortcutAction action, ViewController& session)
     case ShortcutAction::ShowNextWord:
         session.showNextWord();
         break;
+    case ShortcutAction::SplitSegment:
+        session.splitSegmentAtPlayHead();
+        break;
+    case ShortcutAction::MergeSegments:
+        session.mergeWithNextSegment();
+        break;
     }
 }
 
@@ -92,8 +98,29 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
     // to the very next key press.
     const std::optional<ShortcutAction> action =
         matchStoredShortcut(ObjectStorage(m_defaults), stroke.keyCode, stroke.rawModifierFlags);
-    if (!action)
+    if (action) {
+        perform(*action, m_session);
+        return true;
+    }
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    // Alt with an arrow moves the current segment's start, as a drag would.
+    if (key->modifiers() == Qt::AltModifier &&
+        (key->key() == Qt::Key_Left || key->key() == Qt::Key_Right)) {
+        m_session.nudgeCurrentSegmentStart(key->key() == Qt::Key_Left ? -1 : 1);
+        return true;
+    }
+    const bool undo = key->matches(QKeySequence::Undo);
+    if (!undo && !key->matches(QKeySequence::Redo))
         return false;
-    perform(*action, m_session);
+    // A row keeps its own undo of what was typed in it; once that has none
+    // left, the keys step through the edits of the cutting.
+    const auto* editor = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+    if (editor && m_session.transcriptionTableView()->isDictationEditor(editor) &&
+        (undo ? editor->isUndoAvailable() : editor->isRedoAvailable()))
+        return false;
+    if (undo)
+        m_session.undoCuttingEdit();
+    else
+        m_session.redoCuttingEdit();
     return true;
 }

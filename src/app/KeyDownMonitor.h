@@ -8,10 +8,11 @@
 class Defaults;
 class ViewController;
 
-// The six playback shortcuts, for the whole application: an event filter on
-// the application object that sees every key press before any widget does.
-// A press in the main window that matches a stored shortcut runs its command
-// and goes no further; anything else reaches its widget untouched.
+// The bound shortcuts, for the whole application: an event filter on the
+// application object that sees every key press before any widget does. A
+// press in the main window that matches a stored shortcut runs its command
+// and goes no further; so do the fixed keys of the cutting's edits (Undo,
+// Redo, Alt+Left, Alt+Right); anything else reaches its widget untouched.
 //
 // A dictation row's editor is not a reason to stand aside: the learner types
 // there and steps through the segments with the same hands. Any other text
@@ -24,7 +25,7 @@ public:
     KeyDownMonitor(ViewController& session, Defaults& defaults, QObject* parent = nullptr);
     ~KeyDownMonitor() override;
 
-    // What each of the six commands does, for a key press and a menu item alike.
+    // What each bound command does, for a key press and a menu item alike.
     static void perform(ShortcutAction action, ViewController& session);
 
 protected:

@@ -94,6 +94,10 @@ void MainWindowController::setupToolbar()
     QAction* clear = add("clear", "clear", Texts::ToolbarClear, Texts::TipClear);
     connect(clear, &QAction::triggered, this, [this] { m_viewController->clearTranscription(); });
     needsLesson(clear);
+    QAction* split = add("split", "split", Texts::ToolbarSplit, Texts::TipSplit);
+    connect(split, &QAction::triggered, this,
+            [this] { m_viewController->splitSegmentAtPlayHead(); });
+    needsLesson(split);
     QAction* music = add("importFromMusicLibrary", "music", Texts::ToolbarMusic, Texts::TipMusic);
     connect(music, &QAction::triggered, this,
             &MainWindowController::toolbarItemImportFromMusicLibrary);
@@ -151,6 +155,7 @@ void MainWindowController::setupMenus()
     item(file, "menuQuit", Texts::MenuQuit, &QWidget::close)->setShortcut(QKeySequence::Quit);
 
     QMenu* edit = addMenu("menuEdit", Texts::MenuEdit);
+    setupEditMenu(edit);
     needsLesson(item(edit, "menuClearDictation", Texts::MenuClearDictation,
                      [this] { m_viewController->clearTranscription(); }));
     edit->addSeparator();

@@ -75,6 +75,10 @@ private:
     void setupToolbar();
     void setupMenus();
     void setupPlaybackMenu();
+    // Undo, Redo and the cutting's edits (MainWindowController+Edit.cpp).
+    void setupEditMenu(QMenu* edit);
+    // Their texts: the command an undo would take back, the keys bound now.
+    void updateEditMenu();
     // Enabled only while a lesson is in the window.
     void needsLesson(QAction* command);
     // The commands that need a reference text follow whether there is one.
@@ -94,6 +98,10 @@ private:
     QPointer<QAction> m_repeatButton;
     QMenu* m_recentMenu = nullptr;
     QMenu* m_playbackMenu = nullptr;
+    QAction* m_undoItem = nullptr;
+    QAction* m_redoItem = nullptr;
+    QAction* m_splitItem = nullptr;
+    QAction* m_mergeItem = nullptr;
     QList<QAction*> m_lessonCommands;
     QList<QAction*> m_referenceCommands;
     QPointer<QAction> m_checkButton;

@@ -23,6 +23,7 @@
 #include <QPointer>
 #include <QThreadPool>
 #include <QTimer>
+#include <QUndoStack>
 #include <cerrno>
 #include <cstring>
 #include <sys/stat.h>
@@ -109,6 +110,8 @@ void ViewController::finishOpening(bool success, const QString& path)
         updateStatusBar();
     } else {
         m_currentAudioPath = loaded;
+        // Edits of the cutting shown before belong to it alone.
+        m_cuttingEdits->clear();
         initTranscription();
         offerDictationFoundElsewhere(); // before the rows are shown, which saves them
         openLessonJournal();

@@ -258,11 +258,9 @@ void ViewController::importTranscriptionFrom(const QString& path, bool inTimeOrd
     const SegmentList segments = m_transcriptions.mutableSegments();
     const double end = segments.isEmpty() ? 0.0 : segments.last().start + segments.last().duration;
     if (m_engine.getTotalDuration() >= end) {
-        // Rows and boundaries change together or not at all.
-        if (m_engine.updateSegments(segments)) {
-            m_table->updateTranscriptions(texts);
-            journalAllRows();
-        }
+        // Rows and boundaries change together, as one step that can be undone.
+        if (!segments.isEmpty() && texts.size() == segments.size())
+            pushCuttingEdit(Texts::EditImport, LessonCutting{segments, texts}, 0, std::nullopt);
     } else {
         showError(LocalizedString(Texts::InvalidFile),
                   LocalizedString(Texts::LyricDurationTooLong));
@@ -282,10 +280,7 @@ void ViewController::clearTranscription()
                                     if (!confirmed || self.isNull())
                                         return;
                                     ViewController* session = self.data();
-                                    // The table's report of row 0 that follows starts the usual
-                                    // save.
-                                    session->initEmptyTranscriptions();
-                                    session->journalAllRows();
+                                    session->clearAllRows();
                                     session->playFirstSegment();
                                 });
 }

@@ -28,6 +28,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QUndoStack>
 #include <QThreadPool>
 #include <QTimer>
 #include <QToolBar>
@@ -126,6 +127,7 @@ void ViewController::buildViews()
     m_loadingIndicator = new LoadingIndicator(this);
     buildCheckBar();
     buildJournal();
+    m_cuttingEdits = new QUndoStack(this);
 
     m_autoUpdateWavePosTimer = new QTimer(this);
     m_progressTimer = new QTimer(this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/CuttingCommand.h"
 #include "app/SessionServices.h"
 #include "reference/Checker.h"
 #include "reference/ReferenceText.h"
@@ -30,6 +31,7 @@ class QScrollArea;
 class QStatusBar;
 class QThreadPool;
 class QTimer;
+class QUndoStack;
 class DocumentManager;
 class TranscriptionManager;
 class TranscriptionTableView;
@@ -154,6 +156,26 @@ public:
     // Shows the reference word after the last one typed right.
     void showNextWord();
 
+    // ---- Fixing the cutting by hand (ViewController+Cutting.cpp) ----
+    // Each edit is one step on cuttingEdits(); the rows go with the segments,
+    // and the engine, the strip, the table, the reference and the store follow.
+    // The segment under the play head cut at the play head; the current row's
+    // text is cut at its caret when the caret is inside it.
+    void splitSegmentAtPlayHead();
+    // The current segment and the next as one, their texts joined.
+    void mergeWithNextSegment();
+    // Segment `index` starts at `seconds` (on the analysis frame, kept off
+    // its neighbours), the previous one ending there.
+    void moveSegmentStart(qint64 index, double seconds);
+    // The current segment's start a tenth of a second earlier (-1) or later (+1).
+    void nudgeCurrentSegmentStart(int direction);
+    void undoCuttingEdit();
+    void redoCuttingEdit();
+    // Whether the rows and the segments can be edited now (a lesson shown,
+    // no analysis running, no question open).
+    bool canEditCutting() const;
+    QUndoStack* cuttingEdits() const { return m_cuttingEdits; }
+
     // ---- Typing journal (ViewController+Journal.cpp) ----
     // Commits what the journal holds to the disk now (row changes, quit).
     void syncJournal();
@@ -235,6 +257,17 @@ private:
     QString fingerprintForSave() const;
     // A save on this thread wrote the identity's transcript.
     void recordFingerprint(const QString& identifier);
+
+    // Fixing the cutting (ViewController+Cutting.cpp)
+    LessonCutting currentCutting() const;
+    // Pushes an edit whose result is `after`, `current` the segment then
+    // current; the state now is what an undo brings back.
+    void pushCuttingEdit(const char* name, LessonCutting after, qint64 current,
+                         std::optional<qsizetype> caret, int kind = -1, qint64 movedIndex = -1);
+    void applyCutting(const CuttingCommand::State& state);
+    // Every row emptied, the cutting kept.
+    void clearAllRows();
+    double playHeadPosition() const;
 
     // Typing journal (ViewController+Journal.cpp)
     void buildJournal();
@@ -324,6 +357,9 @@ private:
     // meanwhile).
     QString m_contentFingerprint;
     QPointer<QWidget> m_foundDictationSheet;
+
+    // The edits of the lesson shown's cutting; emptied when a lesson opens.
+    QUndoStack* m_cuttingEdits = nullptr;
 
     // The typing journal of the lesson shown.
     std::unique_ptr<TypingJournal> m_journal;

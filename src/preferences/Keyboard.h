@@ -26,10 +26,13 @@ public:
     {
         KeyA = 0,
         KeyH = 4,
+        KeyZ = 6,
+        KeyB = 11,
         KeyQ = 12,
         KeyW = 13,
         KeyR = 15,
         KeyReturn = 36,
+        KeyJ = 38,
         KeySlash = 44,
         KeyF2 = 120,
         KeyF10 = 109,

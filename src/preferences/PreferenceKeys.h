@@ -23,6 +23,9 @@ inline constexpr const char* SplitAudioShortcut = "kSplitAudioShortcut";
 // The check against a reference text.
 inline constexpr const char* CheckShortcut = "kCheckShortcut";
 inline constexpr const char* ShowNextWordShortcut = "kShowNextWordShortcut";
+// Fixing the cutting by hand.
+inline constexpr const char* SplitSegmentShortcut = "kSplitSegmentShortcut";
+inline constexpr const char* MergeSegmentsShortcut = "kMergeSegmentsShortcut";
 
 // Interface language: the chosen code, and the one-element preference list read
 // at start-up to pick the translation. Neither has a registered value.

@@ -39,7 +39,8 @@ namespace {
 const char* const kShortcutTexts[ShortcutCount] = {
     Texts::ShortcutPrevious,   Texts::ShortcutNext,      Texts::ShortcutPlayPause,
     Texts::ShortcutRepeatPlay, Texts::ShortcutPlayFirst, Texts::ShortcutSplitAudio,
-    Texts::ShortcutCheck,      Texts::ShortcutShowNextWord};
+    Texts::ShortcutCheck,      Texts::ShortcutShowNextWord, Texts::ShortcutSplit,
+    Texts::ShortcutMerge};
 
 QFormLayout* makeForm(QWidget* page)
 {

@@ -25,6 +25,10 @@ const std::array<ShortcutBinding, ShortcutCount>& shortcutBindings()
          KeyboardShortcut(Keyboard::KeyReturn, ModifierFlag::Control)},
         {ShortcutAction::ShowNextWord, ShowNextWordShortcut, "shownextword",
          KeyboardShortcut(Keyboard::KeyH, ModifierFlag::Control)},
+        {ShortcutAction::SplitSegment, SplitSegmentShortcut, "splitsegment",
+         KeyboardShortcut(Keyboard::KeyB, ModifierFlag::Control)},
+        {ShortcutAction::MergeSegments, MergeSegmentsShortcut, "mergesegments",
+         KeyboardShortcut(Keyboard::KeyJ, ModifierFlag::Control)},
     }};
     return bindings;
 }

@@ -9,7 +9,7 @@
 class ObjectStorage;
 
 // The commands that can be bound to a key: six for playback, two for the
-// check against a reference text.
+// check against a reference text, two for fixing the cutting.
 enum class ShortcutAction
 {
     PreviousSegment, // playPreviousSegment
@@ -20,6 +20,8 @@ enum class ShortcutAction
     SplitAudio,      // processAudioFile
     Check,           // checkCurrentSegment
     ShowNextWord,    // showNextWord
+    SplitSegment,    // splitSegmentAtPlayHead
+    MergeSegments,   // mergeWithNextSegment
 };
 
 struct ShortcutBinding
@@ -30,7 +32,7 @@ struct ShortcutBinding
     KeyboardShortcut defaultShortcut;
 };
 
-inline constexpr std::size_t ShortcutCount = 8;
+inline constexpr std::size_t ShortcutCount = 10;
 using ShortcutSet = std::array<KeyboardShortcut, ShortcutCount>;
 
 // The bindings in the order a key press is tested against them; the first match

@@ -99,6 +99,34 @@ void TranscriptionTableView::updateTranscriptions(const QStringList& texts)
     });
 }
 
+void TranscriptionTableView::replaceTranscriptions(const QStringList& texts, qint64 current,
+                                                   std::optional<qsizetype> caret)
+{
+    const bool hadFocus = m_editor && m_editor->hasFocus();
+    moveEditorToRow(-1);
+    m_rowMarks.clear();
+    m_model->resetTranscriptions(texts);
+    ++m_loadGeneration; // a first-row selection still waiting is overtaken
+    m_currentIndex = -1;
+    m_currentEditingRow = -1;
+    if (texts.isEmpty())
+        return;
+    const int row = int(qBound<qint64>(0, current, texts.size() - 1));
+    m_reportSelection = false;
+    selectSingleRow(row);
+    m_reportSelection = true;
+    moveEditorToRow(row);
+    m_currentIndex = row;
+    m_currentEditingRow = row;
+    scrollTo(m_model->index(row, kText));
+    if (!m_editor)
+        return;
+    if (caret)
+        m_editor->setCursorPosition(int(*caret));
+    if (hadFocus)
+        m_editor->setFocus(Qt::OtherFocusReason);
+}
+
 void TranscriptionTableView::setRowMarks(qint64 row, const RowMarks& marks)
 {
     if (row < 0 || row >= rowCount())
@@ -166,6 +194,13 @@ QWidget* TranscriptionTableView::editorForRow(qint64 row) const
     if (row < 0 || row >= rowCount())
         return nullptr;
     return indexWidget(m_model->index(int(row), kText));
+}
+
+std::optional<qsizetype> TranscriptionTableView::editingCaret() const
+{
+    if (!m_editor || !m_editor->hasFocus())
+        return std::nullopt;
+    return m_editor->cursorPosition();
 }
 
 bool TranscriptionTableView::isDictationEditor(const QObject* widget) const

@@ -11,6 +11,7 @@
 #include <QSize>
 #include <QStringList>
 #include <QTableView>
+#include <optional>
 
 class AudioManager;
 class CustomTableHeaderView;
@@ -39,6 +40,13 @@ public:
     // selected and takes the typing focus.
     void updateTranscriptions(const QStringList& texts);
     void updateTranscription(const QString& text, qint64 index);
+    // Replaces every row with `current` selected at once and nothing
+    // reported: the session has already made it current. The caret goes to
+    // `caret` in its editor (the end when unset), which keeps the focus.
+    void replaceTranscriptions(const QStringList& texts, qint64 current,
+                               std::optional<qsizetype> caret = std::nullopt);
+    // The caret in the current row's editor while it has the focus.
+    std::optional<qsizetype> editingCaret() const;
     // Selects a row from outside and scrolls it into view.
     void setCurrentSegment(qint64 index);
     // The transcript line of a row: "[mm:ss.mmm]text" at its segment's start.

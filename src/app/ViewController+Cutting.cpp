@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Fixing the cutting by hand: a segment split at the play head, two merged, a
+// start moved, each one step on the undo stack with the rows it carried.
+
+#include "app/CuttingCommand.h"
+#include "app/ViewController.h"
+#include "audio/AudioManager.h"
+#include "audio/AudioPlayer.h"
+#include "common/Clock.h"
+#include "common/Log.h"
+#include "localization/LocalizedString.h"
+#include "localization/LocalizedTexts.h"
+#include "views/TranscriptionTableView.h"
+#include "views/WaveformView.h"
+
+#include <QPointer>
+#include <QStatusBar>
+#include <QUndoStack>
+
+namespace {
+// How far the keyboard moves a start: five analysis frames.
+constexpr double kNudge = 0.1;
+} // namespace
+
+bool ViewController::canEditCutting() const
+{
+    // The rows and the engine's segments must be one list: not while an
+    // analysis rewrites the engine, nor while a found dictation is offered.
+    return !isProcessing() && m_segmentsShown > 0 && !m_foundDictationSheet &&
+           m_engine.numberOfSegments() == m_table->mutableTranscriptions().size();
+}
+
+LessonCutting ViewController::currentCutting() const
+{
+    return LessonCutting{m_engine.segments(), m_table->mutableTranscriptions()};
+}
+
+void ViewController::pushCuttingEdit(const char* name, LessonCutting after, qint64 current,
+                                     std::optional<qsizetype> caret, int kind, qint64 movedIndex)
+{
+    CuttingCommand::State before{currentCutting(), m_currentSegmentIndex,
+                                 m_table->editingCaret()};
+    CuttingCommand::State next{std::move(after), current, caret};
+    QPointer<ViewController> self(this);
+    const QString lesson = m_currentAudioPath;
+    auto apply = [self, lesson](const CuttingCommand::State& state) {
+        // The stack is emptied when another lesson opens; this is a guard.
+        ViewController* session = self.data();
+        if (session != nullptr && session->m_currentAudioPath == lesson)
+            session->applyCutting(state);
+    };
+    m_cuttingEdits->push(new CuttingCommand(LocalizedString(name), std::move(before),
+                                            std::move(next), std::move(apply),
+                                            CuttingCommand::Kind(kind), movedIndex));
+}
+
+void ViewController::applyCutting(const CuttingCommand::State& state)
+{
+    const LessonCutting& cutting = state.cutting;
+    if (!m_engine.updateSegments(cutting.segments)) {
+        qCWarning(lcApp, "The engine refused an edited cutting of %lld segments",
+                  qlonglong(cutting.segments.size()));
+        return;
+    }
+    const qint64 current = qBound<qint64>(0, state.current, cutting.segments.size() - 1);
+    m_currentSegmentIndex = current;
+    m_engine.setCurrentSegmentIndex(current);
+    m_table->replaceTranscriptions(cutting.texts, current, state.caret);
+    m_waveformView->updateWithSegments(cutting.segments);
+    m_waveformView->setCurrentSegment(current);
+    setSegmentsShown(cutting.segments.size());
+    updateStatusBar();
+    // The check's marks and each row's part of the reference follow the segments.
+    if (m_reference)
+        setReference(m_reference);
+    // A repeat switch waiting for the end of the current segment waits for its new end.
+    if (m_playbackTimer && m_playbackTimer->isValid() && m_engine.isPlaying())
+        armRepeatSwitchEnd();
+    journalAllRows();
+    autoSaveTranscription(true);
+}
+
+void ViewController::clearAllRows()
+{
+    // One step that can be undone; the segments stay.
+    LessonCutting cleared{m_engine.segments(), {}};
+    cleared.texts.reserve(cleared.segments.size());
+    for (qsizetype i = 0; i < cleared.segments.size(); ++i)
+        cleared.texts.append(QString());
+    pushCuttingEdit(Texts::EditClear, std::move(cleared), m_currentSegmentIndex, std::nullopt);
+}
+
+double ViewController::playHeadPosition() const
+{
+    const AudioPlayer* player = m_engine.audioPlayer();
+    if (player)
+        return player->currentTime();
+    const SegmentList& segments = m_engine.segments();
+    return m_currentSegmentIndex >= 0 && m_currentSegmentIndex < segments.size()
+               ? segments[m_currentSegmentIndex].start
+               : 0.0;
+}
+
+void ViewController::splitSegmentAtPlayHead()
+{
+    if (!canEditCutting())
+        return;
+    const LessonCutting cutting = currentCutting();
+    const double at = playHeadPosition();
+    const qsizetype index = CuttingEdits::segmentAt(cutting.segments, at);
+    // The caret counts only in the row being split.
+    const std::optional<qsizetype> caret =
+        index == m_table->currentIndex() ? m_table->editingCaret() : std::nullopt;
+    std::optional<LessonCutting> after = CuttingEdits::split(cutting, index, at, caret);
+    if (!after) {
+        qCInfo(lcApp, "No split at %.3f s: a part would be shorter than %.1f s", at,
+               CuttingEdits::kShortestPart);
+        m_statusBar->showMessage(LocalizedString(Texts::SplitRefused), 5000);
+        return;
+    }
+    // The play head is in the second part: it becomes the current segment,
+    // and the sound goes on where it was.
+    pushCuttingEdit(Texts::EditSplit, std::move(*after), index + 1, 0);
+}
+
+void ViewController::mergeWithNextSegment()
+{
+    if (!canEditCutting())
+        return;
+    const qint64 index = m_currentSegmentIndex;
+    std::optional<LessonCutting> after = CuttingEdits::mergeWithNext(currentCutting(), index);
+    if (!after)
+        return;
+    // The caret stays where the first row's text ended.
+    const qsizetype caret = m_table->mutableTranscriptions().value(index).size();
+    pushCuttingEdit(Texts::EditMerge, std::move(*after), index, caret);
+}
+
+void ViewController::moveSegmentStart(qint64 index, double seconds)
+{
+    if (!canEditCutting())
+        return;
+    std::optional<LessonCutting> after = CuttingEdits::moveStart(currentCutting(), index, seconds);
+    if (!after)
+        return;
+    pushCuttingEdit(Texts::EditMove, std::move(*after), m_currentSegmentIndex,
+                    m_table->editingCaret(), CuttingCommand::MoveStart, index);
+}
+
+void ViewController::nudgeCurrentSegmentStart(int direction)
+{
+    if (!canEditCutting() || m_currentSegmentIndex <= 0)
+        return;
+    const double start = m_engine.segments()[m_currentSegmentIndex].start;
+    moveSegmentStart(m_currentSegmentIndex, start + direction * kNudge);
+}
+
+void ViewController::undoCuttingEdit()
+{
+    if (canEditCutting() && m_cuttingEdits->canUndo())
+        m_cuttingEdits->undo();
+}
+
+void ViewController::redoCuttingEdit()
+{
+    if (canEditCutting() && m_cuttingEdits->canRedo())
+        m_cuttingEdits->redo();
+}
