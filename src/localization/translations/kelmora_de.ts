@@ -799,5 +799,77 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Not Now</source>
         <translation>Nicht jetzt</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>Abschnitt an der Wiedergabeposition &amp;teilen</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>Mit dem nächsten Abschnitt &amp;zusammenführen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>&amp;Rückgängig: %@</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>&amp;Wiederherstellen: %@</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>Abschnitt teilen</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>Abschnitte zusammenführen</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>Grenze verschieben</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>Diktat löschen</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>Diktat importieren</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>Abschnitt an der Wiedergabeposition in zwei Teile teilen</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>Nichts wurde geteilt: Jeder Teil eines Abschnitts muss mindestens 0,1 Sekunden lang sein</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>Abschnittsbeginn &amp;früher setzen</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>Abschnittsbeginn &amp;später setzen</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>Abschnitt teilen</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>Mit dem nächsten zusammenführen</translation>
+    </message>
 </context>
 </TS>

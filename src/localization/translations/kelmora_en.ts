@@ -799,5 +799,77 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Not Now</source>
         <translation>Not Now</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>Spli&amp;t Segment at Play Head</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>&amp;Merge with Next Segment</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>&amp;Undo %@</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>&amp;Redo %@</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>Split Segment</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>Merge Segments</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>Move Boundary</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>Clear Dictation</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>Import Dictation</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>Split the segment in two at the play head</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>Nothing was split: each part of a segment must be at least 0.1 seconds long</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>Move Segment Start &amp;Earlier</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>Move Segment Start &amp;Later</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>Split segment</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>Merge with next</translation>
+    </message>
 </context>
 </TS>

@@ -799,5 +799,77 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Not Now</source>
         <translation>Ahora no</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>Dividir segmen&amp;to en el cabezal de reproducción</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>&amp;Unir con el segmento siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>&amp;Deshacer: %@</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>&amp;Rehacer: %@</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>Dividir segmento</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>Unir segmentos</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>Mover límite</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>Borrar dictado</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>Importar dictado</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividir</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>Dividir el segmento en dos en el cabezal de reproducción</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>No se ha dividido nada: cada parte de un segmento debe durar al menos 0,1 segundos</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>Adela&amp;ntar el inicio del segmento</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>R&amp;etrasar el inicio del segmento</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>Dividir segmento</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>Unir con el siguiente</translation>
+    </message>
 </context>
 </TS>

@@ -799,5 +799,77 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Not Now</source>
         <translation>Pas maintenant</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>D&amp;iviser le segment à la tête de lecture</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>&amp;Fusionner avec le segment suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>&amp;Annuler : %@</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>&amp;Rétablir : %@</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>Diviser le segment</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>Fusionner les segments</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>Déplacer la limite</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>Effacer la dictée</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>Importer une dictée</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Diviser</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>Diviser le segment en deux à la tête de lecture</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>Rien n’a été divisé : chaque partie d’un segment doit durer au moins 0,1 seconde</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>Ava&amp;ncer le début du segment</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>Re&amp;tarder le début du segment</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>Diviser le segment</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>Fusionner avec le suivant</translation>
+    </message>
 </context>
 </TS>

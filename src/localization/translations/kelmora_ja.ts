@@ -799,5 +799,77 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Not Now</source>
         <translation>今はしない</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>再生位置でセグメントを分割(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>次のセグメントと結合(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>「%@」を元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>「%@」をやり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>セグメントを分割</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>セグメントを結合</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>境界を移動</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>ディクテーションを消去</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>ディクテーションをインポート</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>分割</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>再生位置でセグメントを 2 つに分割</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>分割しませんでした：セグメントの各部分は 0.1 秒以上の長さが必要です</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>セグメントの開始を早める(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>セグメントの開始を遅らせる(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>セグメントを分割</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>次のセグメントと結合</translation>
+    </message>
 </context>
 </TS>

@@ -799,5 +799,77 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Not Now</source>
         <translation>나중에</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>재생 위치에서 구간 나누기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>다음 구간과 합치기(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>%@ 실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>%@ 다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>구간 나누기</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>구간 합치기</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>경계 이동</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>받아쓰기 지우기</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>받아쓰기 가져오기</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>나누기</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>재생 위치에서 구간을 둘로 나누기</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>나누지 않았습니다: 구간의 각 부분은 0.1초 이상이어야 합니다</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>구간 시작을 앞당기기(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>구간 시작을 늦추기(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>구간 나누기</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>다음 구간과 합치기</translation>
+    </message>
 </context>
 </TS>

@@ -799,5 +799,77 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Not Now</source>
         <translation>Не сейчас</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>Раз&amp;делить сегмент в позиции воспроизведения</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>О&amp;бъединить со следующим сегментом</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>О&amp;тменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>О&amp;тменить: %@</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>&amp;Повторить: %@</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>Разделить сегмент</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>Объединить сегменты</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>Сдвинуть границу</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>Очистить диктант</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>Импортировать диктант</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Разделить</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>Разделить сегмент надвое в позиции воспроизведения</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>Ничего не разделено: каждая часть сегмента должна длиться не менее 0,1 секунды</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>Сдвинуть начало сегмента р&amp;аньше</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>Сдвинуть начало сегмента поз&amp;же</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>Разделить сегмент</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>Объединить со следующим</translation>
+    </message>
 </context>
 </TS>

@@ -799,5 +799,77 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Not Now</source>
         <translation>ไม่ใช่ตอนนี้</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>แบ่งช่วงที่ตำแหน่งการเล่น(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>รวมกับช่วงถัดไป(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>เลิกทำ(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>ทำซ้ำ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>เลิกทำ %@(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>ทำซ้ำ %@(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>แบ่งช่วง</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>รวมช่วง</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>ย้ายขอบช่วง</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>ล้างการเขียนตามคำบอก</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>นำเข้าการเขียนตามคำบอก</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>แบ่ง</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>แบ่งช่วงออกเป็นสองส่วนที่ตำแหน่งการเล่น</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>ไม่ได้แบ่งช่วง: แต่ละส่วนของช่วงต้องยาวอย่างน้อย 0.1 วินาที</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>เลื่อนจุดเริ่มต้นของช่วงให้เร็วขึ้น(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>เลื่อนจุดเริ่มต้นของช่วงให้ช้าลง(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>แบ่งช่วง</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>รวมกับช่วงถัดไป</translation>
+    </message>
 </context>
 </TS>

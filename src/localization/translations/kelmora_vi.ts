@@ -799,5 +799,77 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Not Now</source>
         <translation>Để sau</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>Tách đoạn tại &amp;vị trí phát</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>&amp;Gộp với đoạn tiếp theo</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Hoàn tác</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Làm lại</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>&amp;Hoàn tác %@</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>&amp;Làm lại %@</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>Tách đoạn</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>Gộp đoạn</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>Dời ranh giới</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>Xóa bài chính tả</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>Nhập bài chính tả</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Tách</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>Tách đoạn làm hai tại vị trí phát</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>Không tách đoạn: mỗi phần của một đoạn phải dài ít nhất 0,1 giây</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>Dời điểm bắt đầu đoạn &amp;sớm hơn</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>Dời điểm bắt đầu đoạn &amp;muộn hơn</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>Tách đoạn</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>Gộp với đoạn sau</translation>
+    </message>
 </context>
 </TS>

@@ -799,5 +799,77 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Not Now</source>
         <translation>以后再说</translation>
     </message>
+    <message>
+        <source>Spli&amp;t Segment at Play Head</source>
+        <translation>在播放位置拆分分段(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge with Next Segment</source>
+        <translation>与下一分段合并(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %@</source>
+        <translation>撤销“%@”(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %@</source>
+        <translation>重做“%@”(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Split Segment</source>
+        <translation>拆分分段</translation>
+    </message>
+    <message>
+        <source>Merge Segments</source>
+        <translation>合并分段</translation>
+    </message>
+    <message>
+        <source>Move Boundary</source>
+        <translation>移动边界</translation>
+    </message>
+    <message>
+        <source>Clear Dictation</source>
+        <translation>清空听写</translation>
+    </message>
+    <message>
+        <source>Import Dictation</source>
+        <translation>导入听写</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>拆分</translation>
+    </message>
+    <message>
+        <source>Split the segment in two at the play head</source>
+        <translation>在播放位置将分段一分为二</translation>
+    </message>
+    <message>
+        <source>Nothing was split: each part of a segment must be at least 0.1 seconds long</source>
+        <translation>未拆分：分段的每一部分至少需要 0.1 秒</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Earlier</source>
+        <translation>将分段起点提前(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Move Segment Start &amp;Later</source>
+        <translation>将分段起点推后(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Split segment</source>
+        <translation>拆分分段</translation>
+    </message>
+    <message>
+        <source>Merge with next</source>
+        <translation>与下一分段合并</translation>
+    </message>
 </context>
 </TS>
