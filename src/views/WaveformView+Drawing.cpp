@@ -247,7 +247,7 @@ void WaveformView::drawBoundaries(QPainter& painter, const Frame& f) const
     const double vRight = f.visibleX + f.visibleW;
     const qint64 count = m_segments.size();
     for (qint64 i = 0; i < count; ++i) {
-        const double x = m_pixelsPerSecond * m_segments[i].start;
+        const double x = m_pixelsPerSecond * boundarySeconds(i);
         if (x > f.extent || x < vLeft || x > vRight)
             continue;
         const bool firstSegment = i == 0;

@@ -27,6 +27,8 @@ WaveformView::WaveformView(AudioManager& engine, NotificationCenter& center, QWi
     // Every pixel is painted, so Qt need not clear anything first.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    // Hovering a draggable marker shows the resize cursor.
+    setMouseTracking(true);
     m_labelFont = font();
     m_labelFont.setPointSizeF(9.0);
 
@@ -55,6 +57,11 @@ void WaveformView::updateWithSegments(const SegmentList& segments)
     // The engine's duration is read with its segments: a later analysis
     // rewrites it on a worker while the strip still shows this file.
     m_totalDuration = m_engine.getTotalDuration();
+    // A drag of the old cutting means nothing in the new one.
+    if (isDraggingBoundary()) {
+        endBoundaryDrag();
+        unsetCursor();
+    }
     m_segments = segments;
     m_lineNumberCache.clear();
     m_currentSegmentIndex = -1;
@@ -167,6 +174,8 @@ void WaveformView::mousePressEvent(QMouseEvent* event)
         QWidget::mousePressEvent(event);
         return;
     }
+    if (beginBoundaryDrag(event->position()))
+        return;
     const qint64 index = segmentIndexForPoint(event->position());
     if (index == -1 || index == m_currentSegmentIndex)
         return;
@@ -265,6 +274,8 @@ bool WaveformView::event(QEvent* event)
 
 bool WaveformView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (filterDragKey(event))
+        return true;
     if (watched == m_viewport && event->type() == QEvent::Resize)
         updateViewWidth();
     return QWidget::eventFilter(watched, event);

@@ -23,7 +23,9 @@ class QScrollArea;
 // The waveform strip: the whole recording on a time axis, the segment
 // boundaries marked, the current segment shaded, the playhead, a time ruler
 // and the segment numbers. It sits in a horizontal QScrollArea and is as wide
-// as the recording at pixelsPerSecond(). A click selects a segment.
+// as the recording at pixelsPerSecond(). A click selects a segment; a drag of
+// a start marker (any but the first) proposes a new boundary, which the view
+// reports and leaves to the session to apply.
 //
 // Shapes are drawn with y growing upward from the bottom edge (one flip in the
 // painter), so the bands read from the bottom: ruler 0-20, lower markers
@@ -46,6 +48,9 @@ public:
     void updateContentWidth();
 
     qint64 segmentIndexForPoint(const QPointF& point) const;
+    // True from a press on a draggable marker until its release, Escape, or
+    // a new segment list.
+    bool isDraggingBoundary() const { return m_drag.index >= 0; }
     qint64 currentSegmentIndex() const { return m_currentSegmentIndex; }
     const SegmentList& segments() const { return m_segments; }
     double pixelsPerSecond() const { return m_pixelsPerSecond; }
@@ -64,9 +69,16 @@ public:
     void clearLineNumberCache();
     void updateLineNumbers();
 
+signals:
+    // Segment `index`'s start was dragged to `seconds`: clamped to 0.1 s
+    // inside its neighbours, not rounded. Not emitted for a cancelled drag.
+    void boundaryMoved(qint64 index, double seconds);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
@@ -86,6 +98,19 @@ private:
     void attachToViewport();
     // Scrolls the least distance that shows [left, left + width).
     void scrollToShow(double left, double width);
+
+    // Dragging a boundary (WaveformView+Drag.cpp). The segment whose start
+    // marker is under `point` and can move, or -1.
+    qint64 draggableMarkerAt(const QPointF& point) const;
+    bool beginBoundaryDrag(const QPointF& point);
+    void dragBoundaryTo(double x);
+    void endBoundaryDrag();
+    // Escape, from whichever widget has the focus, cancels a drag.
+    bool filterDragKey(QEvent* event);
+    // Where segment i's start is drawn: its start, or where it is being dragged.
+    double boundarySeconds(qint64 i) const;
+    // Repaints the stripe a start marker at time `seconds` covers.
+    void updateBoundaryStripe(double seconds);
 
     // What one paint works with. x in view coordinates; the dirty span is
     // the part of the visible span this paint has to cover.
@@ -134,6 +159,15 @@ private:
     QPointer<QObject> m_transcriptionDelegate;
     QPointer<QWidget> m_viewport; // the scroll area's viewport we follow
     QFont m_labelFont;            // ruler labels and segment numbers
+
+    struct BoundaryDrag
+    {
+        qint64 index = -1;     // the segment whose start moves; -1 with no drag
+        double pressX = 0.0;   // where the press was: the marker keeps its offset
+        double original = 0.0; // the start before the drag
+        double seconds = 0.0;  // the start as drawn now, clamped
+    };
+    BoundaryDrag m_drag;
 
     // Styled labels, made once each: segment numbers by number (emptied with
     // the segment list and on resizes), ruler labels by second.
