@@ -128,6 +128,7 @@ void ViewController::buildViews()
     buildCheckBar();
     buildJournal();
     m_cuttingEdits = new QUndoStack(this);
+    connect(m_waveformView, &WaveformView::boundaryMoved, this, &ViewController::moveSegmentStart);
 
     m_autoUpdateWavePosTimer = new QTimer(this);
     m_progressTimer = new QTimer(this);

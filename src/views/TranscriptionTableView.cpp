@@ -102,7 +102,10 @@ void TranscriptionTableView::updateTranscriptions(const QStringList& texts)
 void TranscriptionTableView::replaceTranscriptions(const QStringList& texts, qint64 current,
                                                    std::optional<qsizetype> caret)
 {
-    const bool hadFocus = m_editor && m_editor->hasFocus();
+    // The editor keeps the typing focus, also while an alert has it for now:
+    // it is the window's focus child then, given back when the alert closes.
+    const QWidget* focus = window()->focusWidget();
+    const bool hadFocus = focus && (focus == this || focus == m_editor.data());
     moveEditorToRow(-1);
     m_rowMarks.clear();
     m_model->resetTranscriptions(texts);
@@ -232,7 +235,10 @@ void TranscriptionTableView::moveEditorToRow(int row)
 {
     if (m_editor && m_editorRow == row)
         return;
-    const bool hadFocus = m_editor && m_editor->hasFocus();
+    // The window's focus child counts too: while an alert is up the editor
+    // has no focus, yet gets it back when the alert closes.
+    const bool hadFocus =
+        m_editor && (m_editor->hasFocus() || window()->focusWidget() == m_editor.data());
     if (m_editorRow >= 0 && m_editorRow < rowCount()) {
         closePersistentEditor(m_model->index(m_editorRow, kText));
         update(m_model->index(m_editorRow, TranscriptionTableModel::LineNumberColumn));

@@ -42,7 +42,8 @@ const char* const kLessonCommands[] = {
     "playPause",       "repeatMode",          "export",          "import",
     "clear",           "menuImportDictation", "menuExport",      "menuClearDictation",
     "menuPlayPause",   "menuPreviousSegment", "menuNextSegment", "menuRepeatMode",
-    "menuFirstSegment", "menuSplitAudio"};
+    "menuFirstSegment", "menuSplitAudio",      "split",           "menuSplitSegment",
+    "menuMergeSegments", "menuStartEarlier"};
 
 QStringList enabledCommands(MainWindowController& window, bool enabled)
 {
@@ -82,7 +83,8 @@ TEST(MainWindow, StartsEmptyWithTheLaunchTextAndTheLessonCommandsDisabled)
         {"repeatMode", "menuRepeatMode"}, {"export", "menuExport"},
         {"settings", "menuPreferences"}, {"import", "menuImportDictation"},
         {"clear", "menuClearDictation"}, {"importFromMusicLibrary", "menuImportFromMusic"},
-        {"reference", "menuAttachReference"}, {"check", "menuCheck"}};
+        {"reference", "menuAttachReference"}, {"check", "menuCheck"},
+        {"split", "menuSplitSegment"}};
     auto* toolbar = h.window().findChild<QToolBar*>(QStringLiteral("mainToolbar"));
     ASSERT_NE(toolbar, nullptr);
     ASSERT_EQ(toolbar->actions().size(), twins.size());
