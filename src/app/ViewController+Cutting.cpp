@@ -118,6 +118,7 @@ void ViewController::splitSegmentAtPlayHead()
         m_statusBar->showMessage(LocalizedString(Texts::SplitRefused), 5000);
         return;
     }
+    qCInfo(lcApp, "Split segment %lld at %.3f s", qlonglong(index), at);
     // The play head is in the second part: it becomes the current segment,
     // and the sound goes on where it was.
     pushCuttingEdit(Texts::EditSplit, std::move(*after), index + 1, 0);

@@ -124,10 +124,11 @@ void TranscriptionTableView::replaceTranscriptions(const QStringList& texts, qin
     scrollTo(m_model->index(row, kText));
     if (!m_editor)
         return;
-    if (caret)
-        m_editor->setCursorPosition(int(*caret));
+    // The caret is placed after the focus, which puts it at the end.
     if (hadFocus)
         m_editor->setFocus(Qt::OtherFocusReason);
+    if (caret)
+        m_editor->setCursorPosition(int(*caret));
 }
 
 void TranscriptionTableView::setRowMarks(qint64 row, const RowMarks& marks)

@@ -12,6 +12,7 @@ the way a screen reader would. Usage:
   atspi_probe.py text NAME              prints the text of the first control with that name
   atspi_probe.py centre NAME            prints the screen centre "X Y" of that control
   atspi_probe.py left-of NAME DX        prints "X Y": DX pixels in from its left edge, half-way down
+  atspi_probe.py extents NAME           prints "X Y WIDTH HEIGHT" of that control on the screen
 Exits 1 with a message when what it looks for does not appear in 20 s."""
 
 import sys
@@ -144,13 +145,16 @@ def main(argv):
                                        if n.get_description() == wanted), None),
                      "control described " + wanted)
         print(node.get_name())
-    elif command in ("text", "centre", "left-of"):
+    elif command in ("text", "centre", "left-of", "extents"):
         name = argv[2]
         node = until(lambda app: next((n for n in walk(app)
                                        if n.get_name() == name and role(n) != "label"), None),
                      "control " + name)
         if command == "text":
             print(text_of(node))
+        elif command == "extents":
+            box = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+            print(box.x, box.y, box.width, box.height)
         else:
             box = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
             x = box.x + int(argv[3]) if command == "left-of" else box.x + box.width // 2
