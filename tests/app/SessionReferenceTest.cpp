@@ -192,6 +192,22 @@ TEST_F(SessionReference, CheckMarksTheRowAndTheBarKeepsTheReferenceAndRemovesIt)
     EXPECT_EQ(bar->accessibleName(), "No mistakes. Segment 100%, lesson 79%.");
     EXPECT_EQ(table->rowMarks(1).verdict, RowVerdict::Perfect);
 
+    // Merged with the next segment, the row's part of the reference is both
+    // cues; the undo gives each row its own again.
+    const qsizetype rows = table->model()->rowCount();
+    press(Qt::Key_J, Qt::ControlModifier);
+    ASSERT_EQ(table->model()->rowCount(), rows - 1);
+    press(Qt::Key_H, Qt::ControlModifier);
+    EXPECT_TRUE(bar->accessibleName().endsWith("Next word: The"))
+        << bar->accessibleName().toStdString();
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(bar->accessibleName().startsWith("6 mistakes: missing 'The'"))
+        << bar->accessibleName().toStdString();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_EQ(table->model()->rowCount(), rows);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(bar->accessibleName().startsWith("No mistakes.")) << bar->accessibleName().toStdString();
+
     // The reference comes back with the lesson and goes with Remove.
     ASSERT_TRUE(h.open(lesson));
     ASSERT_TRUE(waitFor([&] { return table->currentIndex() == 0; }));
