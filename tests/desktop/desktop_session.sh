@@ -54,6 +54,10 @@ pids+=($!)
 for _ in $(seq 50); do [ -s "$work/display" ] && break; sleep 0.1; done
 [ -s "$work/display" ] || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
 export DISPLAY=":$(head -n1 "$work/display")"
+# A window that cannot reach the server fails to load Qt's xcb plugin and
+# aborts; a plain client gets in first, so that a failure says where it was.
+for _ in $(seq 50); do xdotool getdisplaygeometry > /dev/null 2>&1 && break; sleep 0.1; done
+xdotool getdisplaygeometry > /dev/null 2>&1 || fail "no client reaches the X server on $DISPLAY"
 
 # The sound server with one null sink; a silent stream keeps it awake, and the
 # sink's monitor is recorded into $work/capture.raw (48 kHz mono s16).
