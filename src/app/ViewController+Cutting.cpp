@@ -57,6 +57,7 @@ void ViewController::pushCuttingEdit(const char* name, LessonCutting after, qint
 void ViewController::applyCutting(const CuttingCommand::State& state)
 {
     const LessonCutting& cutting = state.cutting;
+    const bool sameSegments = m_engine.segments() == cutting.segments;
     if (!m_engine.updateSegments(cutting.segments)) {
         qCWarning(lcApp, "The engine refused an edited cutting of %lld segments",
                   qlonglong(cutting.segments.size()));
@@ -76,7 +77,12 @@ void ViewController::applyCutting(const CuttingCommand::State& state)
     // A repeat switch waiting for the end of the current segment waits for its new end.
     if (m_playbackTimer && m_playbackTimer->isValid() && m_engine.isPlaying())
         armRepeatSwitchEnd();
-    journalAllRows();
+    // The journal keeps rows by their number. Rows of the same segments are
+    // journaled so that a replay cannot bring back what they replaced; after
+    // new segments, the save that follows at once is what keeps them, as a
+    // replay over the old cutting would put texts on the wrong segments.
+    if (sameSegments)
+        journalAllRows();
     autoSaveTranscription(true);
 }
 

@@ -70,6 +70,9 @@ ViewController::ViewController(const SessionServices& services, QWidget* parent)
 
 ViewController::~ViewController()
 {
+    // The stack empties itself as it goes, and says so; the window that
+    // listens is already being torn down.
+    m_cuttingEdits->disconnect();
     m_center.removeObserver(this);
     // A load still running finishes before the engine it writes to can go.
     m_analysisQueue->waitForDone();
