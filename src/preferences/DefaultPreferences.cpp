@@ -4,6 +4,7 @@
 #include "preferences/CheckPreferences.h"
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
+#include "preferences/PracticePreferences.h"
 #include "preferences/PreferenceKeys.h"
 #include "preferences/ShortcutBindings.h"
 
@@ -51,4 +52,12 @@ void regDefaultPreference(Defaults& store)
                             {TypoWeight, QVariant(check.typoWeight)},
                             {CountCase, check.countCase},
                             {CheckAsIType, false}});
+    // The practice loop's, off or zero, so that playback is as before.
+    const PracticeOptions practice;
+    store.registerDefaults({{RepeatGap, QVariant(practice.repeatGap)},
+                            {RepeatUntilMovedOn, practice.repeatUntilMovedOn},
+                            {SlowerFirst, practice.slowerFirst},
+                            {RewindOnResume, QVariant(practice.rewindOnResume)},
+                            {HoldToPlay, practice.holdToPlay},
+                            {HardSentenceThreshold, QVariant(practice.hardThreshold)}});
 }

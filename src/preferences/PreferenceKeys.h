@@ -63,3 +63,13 @@ inline constexpr const char* TypoWeight = "kTypoWeight";             // double: 
 inline constexpr const char* CountCase = "kCountCase";               // bool
 inline constexpr const char* CheckAsIType = "kCheckAsIType";         // bool
 } // namespace PreferenceKeys
+
+// The practice loop.
+namespace PreferenceKeys {
+inline constexpr const char* RepeatGap = "kRepeatGap";                   // double s, 0..10 by 0.5
+inline constexpr const char* RepeatUntilMovedOn = "kRepeatUntilMovedOn"; // bool
+inline constexpr const char* SlowerFirst = "kSlowerFirst";               // bool
+inline constexpr const char* RewindOnResume = "kRewindOnResume";         // double s, 0..5
+inline constexpr const char* HoldToPlay = "kHoldToPlay";                 // bool
+inline constexpr const char* HardSentenceThreshold = "kHardSentenceThreshold"; // double, 0..1
+} // namespace PreferenceKeys
