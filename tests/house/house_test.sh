@@ -10,7 +10,7 @@ src="$root/src"
 status=0
 report() { echo "FAIL: $1"; echo "$2"; status=1; }
 
-for folder in audio common desktop dialogs localization preferences transcript update views; do
+for folder in audio common desktop dialogs localization practice preferences transcript update views; do
   found="$(grep -rn '#include "app/' "$src/$folder" || true)"
   [ -z "$found" ] || report "$folder includes the application shell" "$found"
 done
