@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/PracticeRecord.h"
 
+#include "common/VersionedJson.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -190,23 +192,12 @@ QByteArray PracticeRecord::toJson() const
 
 std::optional<PracticeRecord> PracticeRecord::fromJson(const QByteArray& json, QString* error)
 {
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
-    if (parseError.error != QJsonParseError::NoError)
-        return fail(error, QStringLiteral("not JSON (%1 at byte %2)")
-                               .arg(parseError.errorString())
-                               .arg(parseError.offset));
-    if (!document.isObject())
-        return fail(error, QStringLiteral("not a practice record (no JSON object)"));
-    const QJsonObject root = document.object();
-
-    const QJsonValue version = root.value(VersionKey);
-    if (!version.isDouble() || version.toDouble() != std::floor(version.toDouble()))
-        return fail(error, QStringLiteral("no format version"));
-    if (version.toDouble() != FormatVersion)
-        return fail(error, QStringLiteral("format version %1, where this program reads %2")
-                               .arg(version.toDouble())
-                               .arg(FormatVersion));
+    QString unreadable;
+    const std::optional<QJsonObject> top = readVersionedJson(
+        json, VersionKey, FormatVersion, QStringLiteral("a practice record"), &unreadable);
+    if (!top)
+        return fail(error, unreadable);
+    const QJsonObject& root = *top;
     if (!root.value(SegmentsKey).isArray())
         return fail(error, QStringLiteral("no list of segments"));
     const QJsonArray array = root.value(SegmentsKey).toArray();

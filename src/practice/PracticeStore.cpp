@@ -24,10 +24,7 @@ PracticeStore::PracticeStore(const DocumentManager& documents) : m_documents(doc
 
 QString PracticeStore::nameForIdentity(const QString& identity)
 {
-    if (identity.isEmpty() || identity.startsWith(u'.') || identity.contains(u'/') ||
-        identity.contains(u'\\'))
-        return {};
-    return DocumentManager::TranscriptionsFolder + u'/' + identity + Extension;
+    return DocumentManager::lessonFileName(identity, Extension);
 }
 
 QString PracticeStore::pathForIdentity(const QString& identity) const

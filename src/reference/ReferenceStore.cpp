@@ -22,10 +22,7 @@ ReferenceStore::ReferenceStore(const DocumentManager& documents) : m_documents(d
 
 QString ReferenceStore::nameForIdentity(const QString& identity)
 {
-    if (identity.isEmpty() || identity.startsWith(u'.') || identity.contains(u'/') ||
-        identity.contains(u'\\'))
-        return {};
-    return DocumentManager::TranscriptionsFolder + u'/' + identity + Extension;
+    return DocumentManager::lessonFileName(identity, Extension);
 }
 
 QString ReferenceStore::pathForIdentity(const QString& identity) const

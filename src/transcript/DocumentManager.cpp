@@ -263,3 +263,11 @@ QVariantMap DocumentManager::attributesOfFile(const QString& name, DocumentError
         attributes.insert(QStringLiteral("creationDate"), *st->birthTime);
     return attributes;
 }
+
+QString DocumentManager::lessonFileName(const QString& identity, const QString& extension)
+{
+    if (identity.isEmpty() || identity.startsWith(u'.') || identity.contains(u'/') ||
+        identity.contains(u'\\'))
+        return {};
+    return TranscriptionsFolder + u'/' + identity + extension;
+}

@@ -48,6 +48,9 @@ public:
     QString documentsDirectory() const;
     // The documents folder with the name appended; null when there is no folder.
     QString pathForFilename(const QString& name) const;
+    // A lesson's file beside its transcript, "Transcriptions/<identity><extension>";
+    // null for an identity that could name a place outside that folder.
+    static QString lessonFileName(const QString& identity, const QString& extension);
 
     // Writes the data in one step (a temporary file renamed over the target).
     bool saveData(const std::optional<QByteArray>& data, const QString& name,
