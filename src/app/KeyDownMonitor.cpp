@@ -5,6 +5,7 @@
 #include "common/ThreadHandOff.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
+#include "preferences/PracticePreferences.h"
 #include "views/TranscriptionTableView.h"
 
 #include <QAbstractSpinBox>
@@ -81,7 +82,8 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
 {
     // Every event passes here first, including those workers post back.
     ThreadHandOff::acquired();
-    if (event->type() != QEvent::KeyPress)
+    const bool release = event->type() == QEvent::KeyRelease;
+    if (event->type() != QEvent::KeyPress && !release)
         return false;
     // A key press reaches the filter once for the window and once for each
     // widget it is offered to; the first widget is the one that decides.
@@ -90,6 +92,8 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
         return false;
     if (isOtherTextInput(QApplication::focusWidget()))
         return false;
+    if (release)
+        return releaseHeldKey(*static_cast<QKeyEvent*>(event));
 
     const KeyStroke stroke = Keyboard::keyStrokeForEvent(*static_cast<QKeyEvent*>(event));
     if (!stroke.isValid())
@@ -98,6 +102,10 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
     // to the very next key press.
     const std::optional<ShortcutAction> action =
         matchStoredShortcut(ObjectStorage(m_defaults), stroke.keyCode, stroke.rawModifierFlags);
+    if (action == ShortcutAction::PlayPause && storedPracticeOptions(m_defaults).holdToPlay) {
+        holdKey(*static_cast<QKeyEvent*>(event));
+        return true;
+    }
     if (action) {
         perform(*action, m_session);
         return true;
@@ -122,5 +130,28 @@ bool KeyDownMonitor::eventFilter(QObject* watched, QEvent* event)
         m_session.undoCuttingEdit();
     else
         m_session.redoCuttingEdit();
+    return true;
+}
+
+void KeyDownMonitor::holdKey(const QKeyEvent& event)
+{
+    // A held key repeats; only its first press starts the sound. None of
+    // them types anything into a row.
+    if (event.isAutoRepeat() || m_heldKey)
+        return;
+    m_heldKey = event.key();
+    m_session.setPlayHeld(true);
+}
+
+bool KeyDownMonitor::releaseHeldKey(const QKeyEvent& event)
+{
+    // Matched by the key alone: a modifier let go first must not leave the
+    // sound running.
+    if (!m_heldKey || event.key() != m_heldKey)
+        return false;
+    if (!event.isAutoRepeat()) {
+        m_heldKey = 0;
+        m_session.setPlayHeld(false);
+    }
     return true;
 }

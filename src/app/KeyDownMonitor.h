@@ -6,6 +6,7 @@
 #include <QObject>
 
 class Defaults;
+class QKeyEvent;
 class ViewController;
 
 // The bound shortcuts, for the whole application: an event filter on the
@@ -17,6 +18,9 @@ class ViewController;
 // A dictation row's editor is not a reason to stand aside: the learner types
 // there and steps through the segments with the same hands. Any other text
 // input (a dialog's field, a future search box) keeps all of its keys.
+//
+// With "hold to play" on, the play/pause key works as a transcription pedal
+// does: the sound plays while the key is down and pauses when it comes up.
 class KeyDownMonitor : public QObject
 {
     Q_OBJECT
@@ -33,7 +37,10 @@ protected:
 
 private:
     bool isOtherTextInput(const QWidget* focus) const;
+    void holdKey(const QKeyEvent& event);
+    bool releaseHeldKey(const QKeyEvent& event);
 
     ViewController& m_session;
     Defaults& m_defaults;
+    int m_heldKey = 0; // the play/pause key while it is held down
 };

@@ -74,6 +74,12 @@ void ViewController::togglePlayPause()
     updateStatusBar();
 }
 
+void ViewController::setPlayHeld(bool held)
+{
+    if (held != m_engine.isPlaying())
+        togglePlayPause();
+}
+
 void ViewController::preparePlaySegment()
 {
     if (isProcessing())

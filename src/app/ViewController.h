@@ -97,6 +97,8 @@ public:
     void replayCurrentSegment();
     void playFirstSegment();
     void togglePlayPause();
+    // Plays while `held`, pauses when not: a pedal's press and release.
+    void setPlayHeld(bool held);
     // Repeat each segment, or play on; the sender's icon follows (a key press
     // has none, and the toolbar item is found by its identifier).
     void toggleRepeat(QAction* sender);

@@ -54,5 +54,7 @@ inline constexpr const char* ShowStatusBarDidChange = "ShowStatusBarDidChange";
 // once for each). Object: the setting's key (QString, a PreferenceKeys name);
 // no userInfo. Observers read storedCheckOptions() and storedCheckAsIType().
 inline constexpr const char* CheckOptionsDidChange = "CheckOptionsDidChange";
+// The practice loop's settings changed; the object names the key.
+inline constexpr const char* PracticeOptionsDidChange = "PracticeOptionsDidChange";
 
 } // namespace Notifications

@@ -15,6 +15,8 @@
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
+#include "preferences/PracticePreferences.h"
+#include "preferences/PracticeSettingsGroup.h"
 #include "preferences/PreferenceKeys.h"
 #include "preferences/PreferenceViewController.h"
 #include "preferences/RepeatTimesSpinBox.h"
@@ -55,9 +57,23 @@ void PreferenceViewController::playSpeedStepperValueChanged()
 
 void PreferenceViewController::repeatPlayTimesStepperValueChanged()
 {
+    // "Until I move on" leaves the count as it was, for when it is let go.
     const int times = m_repeatPlayTimesStepper->value();
-    m_engine.setRepeatTimes(times);
-    m_engine.saveMaxRepeatTimesSetting(times);
+    const bool untilMovedOn = m_repeatPlayTimesStepper->isTopEntry(times);
+    if (!untilMovedOn) {
+        m_engine.setRepeatTimes(times);
+        m_engine.saveMaxRepeatTimesSetting(times);
+    }
+    if (untilMovedOn != storedPracticeOptions(m_defaults).repeatUntilMovedOn) {
+        m_defaults.setBool(untilMovedOn, QLatin1String(PreferenceKeys::RepeatUntilMovedOn));
+        practiceSettingChanged(PreferenceKeys::RepeatUntilMovedOn);
+    }
+}
+
+void PreferenceViewController::practiceSettingChanged(const char* key)
+{
+    m_defaults.synchronize();
+    postValue(Notifications::PracticeOptionsDidChange, QString::fromLatin1(key));
 }
 
 void PreferenceViewController::postValue(const char* name, const QVariant& object)
@@ -170,12 +186,11 @@ void PreferenceViewController::resetToDefaults()
 {
     m_engine.resetToDefaultSettings();
     {
-        const QSignalBlocker b1(m_minSegmentDurationStepper), b2(m_playSpeedStepper),
-            b3(m_repeatPlayTimesStepper);
+        const QSignalBlocker b1(m_minSegmentDurationStepper), b2(m_playSpeedStepper);
         m_minSegmentDurationStepper->setValue(m_engine.minSegmentDuration());
         m_playSpeedStepper->setValue(m_engine.currentRate());
-        m_repeatPlayTimesStepper->setValue(static_cast<int>(m_engine.maxRepeatPlayTimes()));
     }
+    showRepeatCount();
 
     m_tableBackgroundColorWell->setColor(DefaultLook::tableBackgroundColor());
     tableBackgroundColorChanged(DefaultLook::tableBackgroundColor());
@@ -197,6 +212,7 @@ void PreferenceViewController::resetToDefaults()
     typoWeightChanged(m_typoWeightPopUp->currentIndex());
     countCaseChanged(m_countCaseSwitch->isChecked());
     checkAsITypeChanged(m_checkAsITypeSwitch->isChecked());
+    m_practiceGroup->resetToDefaults();
 
     const int english = m_languagePopUpButton->findData(QStringLiteral("en"));
     if (english >= 0) {

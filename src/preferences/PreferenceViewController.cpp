@@ -7,12 +7,14 @@
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "localization/PracticeTexts.h"
 #include "preferences/CheckPreferences.h"
 #include "preferences/ColorWell.h"
 #include "preferences/DefaultPreferences.h"
 #include "preferences/Defaults.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
+#include "preferences/PracticeSettingsGroup.h"
 #include "preferences/PreferenceKeys.h"
 #include "preferences/RepeatTimesSpinBox.h"
 #include "preferences/ShortcutTextField.h"
@@ -28,6 +30,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -85,7 +88,15 @@ void PreferenceViewController::setupUI()
     auto* layout = new QVBoxLayout(this);
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("preferenceTabs"));
-    m_tabs->addTab(buildGeneralTab(), LocalizedString(Texts::TabGeneral));
+    // The General page is taller than the window; it scrolls rather than
+    // growing the window, and a field reached with Tab is scrolled to.
+    auto* general = new QScrollArea;
+    general->setObjectName(QStringLiteral("generalScrollArea"));
+    general->setWidget(buildGeneralTab());
+    general->setWidgetResizable(true);
+    general->setFrameShape(QFrame::NoFrame);
+    general->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_tabs->addTab(general, LocalizedString(Texts::TabGeneral));
     m_tabs->addTab(buildAppearanceTab(), LocalizedString(Texts::TabAppearance));
     m_tabs->addTab(buildShortcutsTab(), LocalizedString(Texts::TabShortcuts));
     layout->addWidget(m_tabs);
@@ -157,6 +168,7 @@ QWidget* PreferenceViewController::buildGeneralTab()
     m_repeatPlayTimesStepper = new RepeatTimesSpinBox;
     m_repeatPlayTimesStepper->setObjectName(QStringLiteral("repeatPlayTimesStepper"));
     m_repeatPlayTimesStepper->setRange(1, 99999);
+    m_repeatPlayTimesStepper->setTopEntry(LocalizedString(Texts::RepeatUntilMovedOn));
     m_repeatPlayTimesStepper->setSingleStep(1);
     m_repeatPlayTimesStepper->setKeyboardTracking(false);
     connect(m_repeatPlayTimesStepper, &QSpinBox::valueChanged, this,
@@ -177,6 +189,10 @@ QWidget* PreferenceViewController::buildGeneralTab()
     note->setForegroundRole(QPalette::PlaceholderText);
     grid->addWidget(note, row++, 0, 1, 2);
     grid->addWidget(buildCheckingGroup(), row++, 0, 1, 2);
+    m_practiceGroup = new PracticeSettingsGroup(m_defaults);
+    connect(m_practiceGroup, &PracticeSettingsGroup::optionChanged, this,
+            &PreferenceViewController::practiceSettingChanged);
+    grid->addWidget(m_practiceGroup, row++, 0, 1, 2);
     grid->setRowStretch(row, 1);
     return page;
 }
@@ -326,12 +342,12 @@ void PreferenceViewController::loadCurrentSettings()
     using namespace PreferenceKeys;
     m_engine.loadSettings();
     {
-        const QSignalBlocker b1(m_minSegmentDurationStepper), b2(m_playSpeedStepper),
-            b3(m_repeatPlayTimesStepper);
+        const QSignalBlocker b1(m_minSegmentDurationStepper), b2(m_playSpeedStepper);
         m_minSegmentDurationStepper->setValue(m_engine.minSegmentDuration());
         m_playSpeedStepper->setValue(m_engine.currentRate());
-        m_repeatPlayTimesStepper->setValue(static_cast<int>(m_engine.maxRepeatPlayTimes()));
     }
+    showRepeatCount();
+    m_practiceGroup->showOptions(storedPracticeOptions(m_defaults));
     const ObjectStorage storage(m_defaults);
     m_tableBackgroundColorWell->setColor(
         storage.colorForKey(TableBackgroundColor).value_or(DefaultLook::tableBackgroundColor()));
@@ -355,6 +371,15 @@ void PreferenceViewController::loadCurrentSettings()
     showCheckSettings(storedCheckOptions(m_defaults), storedCheckAsIType(m_defaults));
     selectLanguageItem(m_language.interfaceLanguage());
     printPreference();
+}
+
+void PreferenceViewController::showRepeatCount()
+{
+    // The count stays underneath "Until I move on", for a step down from it.
+    const QSignalBlocker blocker(m_repeatPlayTimesStepper);
+    m_repeatPlayTimesStepper->setValue(static_cast<int>(m_engine.maxRepeatPlayTimes()));
+    if (storedPracticeOptions(m_defaults).repeatUntilMovedOn)
+        m_repeatPlayTimesStepper->setValue(m_repeatPlayTimesStepper->maximum());
 }
 
 void PreferenceViewController::showCheckSettings(const CheckOptions& options, bool checkAsIType)

@@ -19,6 +19,7 @@ class QDoubleSpinBox;
 class QGroupBox;
 class QPushButton;
 class QTabWidget;
+class PracticeSettingsGroup;
 class RepeatTimesSpinBox;
 class ShortcutTextField;
 
@@ -85,6 +86,8 @@ private:
     void checkSettingChanged(const char* key);
     void saveEngineSettings();
     void postValue(const char* name, const QVariant& object);
+    void practiceSettingChanged(const char* key);
+    void showRepeatCount();
     void storeSwitch(const char* key, const char* notification, bool on);
     void endRecording();
 
@@ -109,6 +112,7 @@ private:
     QComboBox* m_typoWeightPopUp = nullptr; // item data: the weight, a double
     QCheckBox* m_countCaseSwitch = nullptr;
     QCheckBox* m_checkAsITypeSwitch = nullptr;
+    PracticeSettingsGroup* m_practiceGroup = nullptr;
     QPushButton* m_resetButton = nullptr;
     // In the order of shortcutBindings(): previous, next, play/pause, repeat,
     // play first, split audio, check, show next word.

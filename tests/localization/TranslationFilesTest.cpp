@@ -5,6 +5,7 @@
 #include "localization/LanguageBundle.h"
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedTexts.h"
+#include "localization/PracticeTexts.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
@@ -87,7 +88,7 @@ QStringList placeholders(const QString& text)
     return found + numbered;
 }
 
-// Every list of texts in LocalizedTexts.h.
+// Every list of texts in LocalizedTexts.h and PracticeTexts.h.
 QList<const char*> textList()
 {
     QList<const char*> texts(Texts::All.begin(), Texts::All.end());
@@ -101,6 +102,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::Recovery.begin(), Texts::Recovery.end()));
     texts.append(QList<const char*>(Texts::Fingerprint.begin(), Texts::Fingerprint.end()));
     texts.append(QList<const char*>(Texts::Cutting.begin(), Texts::Cutting.end()));
+    texts.append(QList<const char*>(Texts::PracticeSettings.begin(), Texts::PracticeSettings.end()));
     return texts;
 }
 

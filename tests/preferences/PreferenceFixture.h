@@ -56,6 +56,7 @@ struct PreferenceFixture
                                  Notifications::ShowAudioWaveDidChange,
                                  Notifications::ShowStatusBarDidChange,
                                  Notifications::CheckOptionsDidChange,
+                                 Notifications::PracticeOptionsDidChange,
                                  Notifications::LanguageDidChangeNotification}) {
             center.addObserver(name, window.get(), [this](const NotificationCenter::Notification& n) {
                 posted << n.name;

@@ -8,6 +8,7 @@
 #include "preferences/ColorWell.h"
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
+#include "preferences/PracticePreferences.h"
 #include "preferences/PreferenceKeys.h"
 #include "preferences/PreferenceFixture.h"
 #include "preferences/RepeatTimesSpinBox.h"
@@ -23,6 +24,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QLocale>
 #include <QPushButton>
 #include <QTabWidget>
@@ -73,11 +75,16 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(f.control<QGroupBox>("checkingGroup")->title(), "Checking");
 
     // Every control has a name for a screen reader, and every tab's controls
-    // fit the window at its opening size: none is pushed off the page.
+    // fit the window at its opening size: none is pushed off the page. A page
+    // that scrolls does so downwards only, never across.
     auto* tabs = f.window->findChild<QTabWidget*>();
     for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
         QWidget* page = tabs->currentWidget();
+        if (auto* scroll = qobject_cast<QScrollArea*>(page)) {
+            page = scroll->widget();
+            EXPECT_LE(page->width(), scroll->viewport()->width());
+        }
         const QList<QWidget*> controls = page->findChildren<QWidget*>();
         for (QWidget* control : controls) {
             if (qobject_cast<QLabel*>(control) || qobject_cast<QGroupBox*>(control) ||
@@ -233,6 +240,25 @@ TEST(PreferenceWindow, EachControlWritesItsSettingAndTellsTheApplication)
     const CheckOptions read = storedCheckOptions(d);
     EXPECT_TRUE(read.countPunctuation && read.countCase && storedCheckAsIType(d));
     EXPECT_DOUBLE_EQ(read.typoWeight, 1.0);
+
+    // The practice settings: a gap typed between steps is the nearest step.
+    f.posted.clear();
+    f.objects.clear();
+    f.control<QDoubleSpinBox>("repeatGapStepper")->setValue(1.8);
+    EXPECT_EQ(f.control<QDoubleSpinBox>("repeatGapStepper")->value(), 2.0);
+    f.control<QCheckBox>("slowerFirstSwitch")->setChecked(true);
+    f.control<QDoubleSpinBox>("rewindOnResumeStepper")->setValue(1.5);
+    f.control<QCheckBox>("holdToPlaySwitch")->setChecked(true);
+    f.control<QSpinBox>("hardThresholdStepper")->setValue(60);
+    EXPECT_EQ(f.posted, QStringList(5, "PracticeOptionsDidChange"));
+    EXPECT_EQ(f.objects, (QVariantList{QString(RepeatGap), QString(SlowerFirst),
+                                       QString(RewindOnResume), QString(HoldToPlay),
+                                       QString(HardSentenceThreshold)}));
+    const PracticeOptions practice = storedPracticeOptions(d);
+    EXPECT_DOUBLE_EQ(practice.repeatGap, 2.0);
+    EXPECT_TRUE(practice.slowerFirst && practice.holdToPlay);
+    EXPECT_DOUBLE_EQ(practice.rewindOnResume, 1.5);
+    EXPECT_DOUBLE_EQ(practice.hardThreshold, 0.6);
 }
 
 TEST(PreferenceWindow, CheckSettingsTheStoreCannotReadShowTheirDefaultsAndAWeightTheNearest)
@@ -306,6 +332,23 @@ TEST(PreferenceWindow, TypedRepeatCountStopsAtFiveDigitsAndAnEmptyFieldBecomesTh
     EXPECT_EQ(repeat->value(), 1);
     EXPECT_EQ(f.defaults.store().integerForKey(MaxRepeatPlayTimes), 1);
     EXPECT_FLOAT_EQ(f.engine->maxRepeatPlayTimes(), 1.0f);
+
+    // "Until I move on" sits one step above the largest count, is chosen by
+    // typing its start, keeps the count beneath it and steps back down to it.
+    repeat->setValue(4);
+    edit->selectAll();
+    QTest::keyClicks(edit, "unt");
+    EXPECT_TRUE(repeat->lastInputError().isEmpty());
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(edit->text(), "Until I move on");
+    EXPECT_TRUE(storedPracticeOptions(f.defaults.store()).repeatUntilMovedOn);
+    EXPECT_EQ(f.defaults.store().integerForKey(MaxRepeatPlayTimes), 4);
+    repeat->setValue(99999);
+    QTest::keyClick(edit, Qt::Key_Up);
+    EXPECT_EQ(edit->text(), "Until I move on");
+    QTest::keyClick(edit, Qt::Key_Down);
+    EXPECT_EQ(repeat->value(), 99999);
+    EXPECT_FALSE(storedPracticeOptions(f.defaults.store()).repeatUntilMovedOn);
 }
 
 TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
@@ -318,6 +361,7 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     ObjectStorage(f.defaults.store()).setKeyboardShortcut(KeyboardShortcut(3, 0), ShowNextWordShortcut);
     f.control<QCheckBox>("countCaseSwitch")->setChecked(true);
     f.control<QComboBox>("typoWeightPopUp")->setCurrentIndex(0);
+    f.control<QCheckBox>("holdToPlaySwitch")->setChecked(true);
     f.language->changeLanguage("ja");
     f.posted.clear();
     f.objects.clear();
@@ -334,7 +378,9 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
                                      "ShowStatusBarDidChange", "DictationTextFontDidChange",
                                      "CheckOptionsDidChange", "CheckOptionsDidChange",
                                      "CheckOptionsDidChange", "CheckOptionsDidChange",
-                                     "LanguageDidChangeNotification"}));
+                                     "PracticeOptionsDidChange", "PracticeOptionsDidChange",
+                                     "PracticeOptionsDidChange", "PracticeOptionsDidChange",
+                                     "PracticeOptionsDidChange", "LanguageDidChangeNotification"}));
     Defaults& d = f.defaults.store();
     EXPECT_DOUBLE_EQ(d.doubleForKey(PlaySpeed), 1.0);
     EXPECT_EQ(f.control<QDoubleSpinBox>("playSpeedStepper")->value(), 1.0);
@@ -353,6 +399,8 @@ TEST(PreferenceWindow, ResetRestoresEverythingInOrderButTheRepeatCount)
     EXPECT_FALSE(f.control<QCheckBox>("countCaseSwitch")->isChecked());
     EXPECT_DOUBLE_EQ(d.doubleForKey(TypoWeight), 0.5);
     EXPECT_EQ(f.control<QComboBox>("typoWeightPopUp")->currentText(), "0.5");
+    EXPECT_EQ(storedPracticeOptions(d), PracticeOptions());
+    EXPECT_FALSE(f.control<QCheckBox>("holdToPlaySwitch")->isChecked());
 }
 
 TEST(PreferenceWindow, ResetWithoutAnEnglishItemLeavesTheLanguageAlone)

@@ -871,5 +871,37 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Merge with next</source>
         <translation>Mit dem nächsten zusammenführen</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Übung</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>Pause nach jeder Wiederholung:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>Erste Wiederholung langsamer abspielen</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>Beim Fortsetzen zurückspringen um:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>Nur bei gehaltener Wiedergabetaste spielen</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>Ein Satz gilt als schwer unter:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>Bis ich weitergehe</translation>
+    </message>
 </context>
 </TS>

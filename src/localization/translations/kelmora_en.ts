@@ -871,5 +871,37 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Merge with next</source>
         <translation>Merge with next</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Practice</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>Pause after each repetition:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>Play the first repetition slower</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>Step back when playing resumes:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>Play only while the play key is held</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>A sentence is hard below:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>Until I move on</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,37 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Merge with next</source>
         <translation>Unir con el siguiente</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Práctica</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>Pausa tras cada repetición:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>Reproducir más despacio la primera repetición</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>Retroceder al reanudar:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>Reproducir solo con la tecla pulsada</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>Una frase es difícil por debajo de:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>Hasta que avance</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,37 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Merge with next</source>
         <translation>Fusionner avec le suivant</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Entraînement</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>Pause après chaque répétition :</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>Lire la première répétition plus lentement</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>Reculer à la reprise de la lecture :</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>Lire tant que la touche est enfoncée</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>Une phrase est difficile en dessous de :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>Jusqu'à ce que je passe à la suite</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,37 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Merge with next</source>
         <translation>次のセグメントと結合</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>練習</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>各リピート後の間:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>最初のリピートをゆっくり再生</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>再開時に戻る秒数:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>再生キーを押している間だけ再生</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>この得点未満の文は難しい文:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>次へ進むまで</translation>
+    </message>
 </context>
 </TS>

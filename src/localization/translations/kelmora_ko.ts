@@ -871,5 +871,37 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Merge with next</source>
         <translation>다음 구간과 합치기</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>연습</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>반복할 때마다 쉬는 시간:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>첫 반복은 느리게 재생</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>다시 재생할 때 되감기:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>재생 키를 누르는 동안만 재생</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>이 점수 미만이면 어려운 문장:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>초</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>다음으로 넘어갈 때까지</translation>
+    </message>
 </context>
 </TS>

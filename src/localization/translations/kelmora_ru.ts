@@ -871,5 +871,37 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Merge with next</source>
         <translation>Объединить со следующим</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Практика</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>Пауза после каждого повтора:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>Первый повтор медленнее</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>Отступ назад при продолжении:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>Играть, пока нажата клавиша</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>Предложение трудное, если ниже:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>с</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>Пока не перейду дальше</translation>
+    </message>
 </context>
 </TS>

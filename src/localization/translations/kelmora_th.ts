@@ -871,5 +871,37 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Merge with next</source>
         <translation>รวมกับช่วงถัดไป</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>การฝึก</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>หยุดพักหลังเล่นซ้ำแต่ละรอบ:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>เล่นรอบแรกให้ช้าลง</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>ถอยกลับเมื่อเล่นต่อ:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>เล่นเฉพาะขณะกดปุ่มเล่นค้างไว้</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>ประโยคยากเมื่อคะแนนต่ำกว่า:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>วินาที</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>จนกว่าจะไปต่อ</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,37 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Merge with next</source>
         <translation>Gộp với đoạn sau</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Luyện tập</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>Nghỉ sau mỗi lần lặp:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>Phát lần lặp đầu tiên chậm hơn</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>Lùi lại khi phát tiếp:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>Chỉ phát khi giữ phím phát</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>Câu khó khi điểm dưới:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>giây</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>Cho đến khi tôi chuyển tiếp</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,37 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Merge with next</source>
         <translation>与下一分段合并</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>练习</translation>
+    </message>
+    <message>
+        <source>Pause after each repetition:</source>
+        <translation>每次重复后暂停:</translation>
+    </message>
+    <message>
+        <source>Play the first repetition slower</source>
+        <translation>第一遍放慢播放</translation>
+    </message>
+    <message>
+        <source>Step back when playing resumes:</source>
+        <translation>继续播放时后退:</translation>
+    </message>
+    <message>
+        <source>Play only while the play key is held</source>
+        <translation>仅在按住播放键时播放</translation>
+    </message>
+    <message>
+        <source>A sentence is hard below:</source>
+        <translation>低于此分数即为难句:</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Until I move on</source>
+        <translation>直到我继续</translation>
+    </message>
 </context>
 </TS>
