@@ -101,6 +101,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::Recovery.begin(), Texts::Recovery.end()));
     texts.append(QList<const char*>(Texts::Fingerprint.begin(), Texts::Fingerprint.end()));
     texts.append(QList<const char*>(Texts::Cutting.begin(), Texts::Cutting.end()));
+    texts.append(QList<const char*>(Texts::Practice.begin(), Texts::Practice.end()));
     return texts;
 }
 
