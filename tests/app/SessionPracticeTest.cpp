@@ -69,9 +69,13 @@ protected:
             *FileIdentity::uniqueIdentifierForFileAtPath(lesson));
     }
 
-    QString toolTip(qint64 row)
+    // As a std::string, which a failure prints readably.
+    std::string toolTip(qint64 row)
     {
-        return table->model()->data(table->model()->index(int(row), 1), Qt::ToolTipRole).toString();
+        return table->model()
+            ->data(table->model()->index(int(row), 1), Qt::ToolTipRole)
+            .toString()
+            .toStdString();
     }
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
