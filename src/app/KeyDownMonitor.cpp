@@ -75,6 +75,9 @@ void KeyDownMonitor::perform(ShortcutAction action, ViewController& session)
     case ShortcutAction::MergeSegments:
         session.mergeWithNextSegment();
         break;
+    case ShortcutAction::PractiseHard:
+        session.togglePractiseHardSentences();
+        break;
     }
 }
 

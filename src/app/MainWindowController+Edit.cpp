@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Edit menu's commands for the cutting: undo and redo of its edits, split,
 // merge and the keyboard's way of moving a start. The waveform strip's context
-// menu offers split and merge too.
+// menu offers split and merge too. The View menu's bound command shows its
+// keys the same way.
 
 #include "app/KeyDownMonitor.h"
 #include "app/MainWindowController.h"
@@ -97,4 +98,11 @@ void MainWindowController::updateEditMenu()
                                   boundKeys(shortcuts, ShortcutAction::SplitSegment)));
     m_mergeItem->setText(withKeys(LocalizedString(Texts::MenuMergeSegments),
                                   boundKeys(shortcuts, ShortcutAction::MergeSegments)));
+}
+
+void MainWindowController::updateViewMenu()
+{
+    m_hardSentencesItem->setText(
+        withKeys(LocalizedString(Texts::MenuPractiseHard),
+                 boundKeys(storedShortcuts(ObjectStorage(m_defaults)), ShortcutAction::PractiseHard)));
 }

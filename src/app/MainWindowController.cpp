@@ -173,6 +173,20 @@ void MainWindowController::setupMenus()
         connect(preset, &QAction::triggered, this,
                 [this, size] { emit sizePresetRequested(size.width(), size.height()); });
     }
+    view->addSeparator();
+    m_hardSentencesItem = view->addAction(QString());
+    m_hardSentencesItem->setObjectName(QStringLiteral("menuPractiseHard"));
+    m_hardSentencesItem->setCheckable(true);
+    connect(m_hardSentencesItem, &QAction::triggered, this, [this] {
+        KeyDownMonitor::perform(ShortcutAction::PractiseHard, *m_viewController);
+        // The mode stays off when the lesson has no hard sentence.
+        m_hardSentencesItem->setChecked(m_viewController->isPractisingHardSentences());
+    });
+    connect(m_viewController, &ViewController::practisingHardSentencesChanged,
+            m_hardSentencesItem, &QAction::setChecked);
+    needsLesson(m_hardSentencesItem);
+    connect(view, &QMenu::aboutToShow, this, &MainWindowController::updateViewMenu);
+    updateViewMenu();
 
     setupPlaybackMenu();
 
@@ -361,6 +375,7 @@ void MainWindowController::toolbarItemRepeat()
 void MainWindowController::cleanupAndClose()
 {
     m_viewController->syncJournal();
+    m_viewController->savePracticeRecord();
     m_engine.stopPlayback();
     m_engine.closeAudioFile();
 }

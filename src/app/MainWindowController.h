@@ -79,6 +79,8 @@ private:
     void setupEditMenu(QMenu* edit);
     // Their texts: the command an undo would take back, the keys bound now.
     void updateEditMenu();
+    // Practise Hard Sentences with the keys bound now.
+    void updateViewMenu();
     // Enabled only while a lesson is in the window.
     void needsLesson(QAction* command);
     // The commands that need a reference text follow whether there is one.
@@ -102,6 +104,7 @@ private:
     QAction* m_redoItem = nullptr;
     QAction* m_splitItem = nullptr;
     QAction* m_mergeItem = nullptr;
+    QAction* m_hardSentencesItem = nullptr;
     QList<QAction*> m_lessonCommands;
     QList<QAction*> m_referenceCommands;
     QPointer<QAction> m_checkButton;

@@ -154,6 +154,7 @@ void ViewController::checkCurrentSegment()
                                                     : m_currentSegmentIndex;
     m_checkedRows.insert(row);
     showCheckOfRow(row);
+    recordPracticeCheck(row);
 }
 
 void ViewController::showCheckOfRow(qint64 row)
@@ -236,6 +237,7 @@ void ViewController::showNextWord()
     if (!result.score)
         return;
     ++m_hints[row];
+    recordPracticeHint(row);
     const std::optional<Token> next = nextWord(result);
     const QString reference = m_referenceBySegment.value(row);
     m_checkBar->setHint(next ? stringWithFormat(LocalizedString(Texts::CheckBarNextWord),

@@ -29,7 +29,16 @@ void ViewController::updateUIForCurrentSegment(qint64 index)
 
 void ViewController::playPreviousSegment()
 {
-    if (isProcessing() || m_currentSegmentIndex <= 0)
+    if (isProcessing())
+        return;
+    if (m_practisingHard) {
+        if (const std::optional<qsizetype> previous = nextHardSegment(-1)) {
+            stopAutoUpdateWavePos();
+            playSegement(*previous);
+        }
+        return;
+    }
+    if (m_currentSegmentIndex <= 0)
         return;
     stopAutoUpdateWavePos();
     playSegement(--m_currentSegmentIndex);
@@ -39,6 +48,13 @@ void ViewController::playNextSegment()
 {
     if (isProcessing())
         return;
+    if (m_practisingHard) {
+        if (const std::optional<qsizetype> next = nextHardSegment(1)) {
+            stopAutoUpdateWavePos();
+            playSegement(*next);
+        }
+        return;
+    }
     stopAutoUpdateWavePos();
     // After the last segment the next one is the first.
     const qint64 next =
@@ -133,6 +149,11 @@ void ViewController::updateCurrentSegmentIndex()
         const qint64 last = m_engine.numberOfSegments() - 1;
         if (now > 0.0 && m_currentSegmentIndex >= 0 && m_currentSegmentIndex < last &&
             now > m_engine.segments()[m_currentSegmentIndex + 1].start) {
+            // Playing on reaches only the hard segments while they are practised.
+            if (m_practisingHard && !isHardSegment(m_currentSegmentIndex + 1)) {
+                playNextSegment();
+                return;
+            }
             ++m_currentSegmentIndex;
             m_waveformView->setCurrentSegment(m_currentSegmentIndex);
             m_engine.setCurrentSegmentIndex(m_currentSegmentIndex);
@@ -153,6 +174,10 @@ void ViewController::updateCurrentSegmentIndex()
     }
     if (!m_waveformView->isHidden() &&
         m_waveformView->currentSegmentIndex() != m_currentSegmentIndex) {
+        if (m_practisingHard && !isHardSegment(m_waveformView->currentSegmentIndex())) {
+            playNextSegment();
+            return;
+        }
         m_currentSegmentIndex = m_waveformView->currentSegmentIndex();
         m_engine.setCurrentSegmentIndex(m_currentSegmentIndex);
         m_table->setCurrentSegment(m_currentSegmentIndex);

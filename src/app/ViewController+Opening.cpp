@@ -142,6 +142,7 @@ void ViewController::showEngineSegmentsAndPlay()
             self->preparePlaySegment();
     });
     updateStatusBar();
+    openLessonPractice();
     loadLessonReference();
 }
 

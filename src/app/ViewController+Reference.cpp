@@ -203,6 +203,7 @@ void ViewController::setReference(std::optional<ReferenceText> reference)
         refreshCheckBarLook();
         showCheckBarForRow(m_table->currentIndex() >= 0 ? m_table->currentIndex()
                                                         : m_currentSegmentIndex);
+        refreshDueCount();
     }
     if (had != m_reference.has_value())
         emit referenceTextChanged(m_reference.has_value());

@@ -19,9 +19,11 @@ void ViewController::updateStatusBar()
 {
     if (isProcessing())
         return;
-    const QString text = m_currentAudioPath.isEmpty()
-                             ? LocalizedString(Texts::NoAudioFileOpened)
-                             : StatusText::build(StatusSnapshot::of(m_engine, m_currentAudioPath));
+    QString text = m_currentAudioPath.isEmpty()
+                       ? LocalizedString(Texts::NoAudioFileOpened)
+                       : StatusText::build(StatusSnapshot::of(m_engine, m_currentAudioPath));
+    if (m_practisingHard)
+        text += QStringLiteral(" | ") + hardSentencesStatus();
     m_statusBarLabel->setText(text);
     m_statusBarLabel->setAccessibleName(text);
 }

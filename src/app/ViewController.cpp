@@ -73,6 +73,9 @@ ViewController::~ViewController()
     // The stack empties itself as it goes, and says so; the window that
     // listens is already being torn down.
     m_cuttingEdits->disconnect();
+    savePracticeRecord();
+    if (m_practiceTick)
+        m_practiceTick->invalidate();
     m_center.removeObserver(this);
     // A load still running finishes before the engine it writes to can go.
     m_analysisQueue->waitForDone();
@@ -129,6 +132,7 @@ void ViewController::buildViews()
 
     m_loadingIndicator = new LoadingIndicator(this);
     buildCheckBar();
+    m_table->setRowToolTipSource([this](qint64 row) { return practiceSummary(row); });
     buildJournal();
     m_cuttingEdits = new QUndoStack(this);
     connect(m_waveformView, &WaveformView::boundaryMoved, this, &ViewController::moveSegmentStart);

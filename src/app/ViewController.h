@@ -3,10 +3,12 @@
 
 #include "app/CuttingCommand.h"
 #include "app/SessionServices.h"
+#include "practice/PracticeRecord.h"
 #include "reference/Checker.h"
 #include "reference/ReferenceText.h"
 #include "views/TranscriptionTableDelegate.h"
 
+#include <QDate>
 #include <QHash>
 #include <QPointer>
 #include <QSet>
@@ -178,6 +180,24 @@ public:
     bool canEditCutting() const;
     QUndoStack* cuttingEdits() const { return m_cuttingEdits; }
 
+    // ---- The practice record and hard sentences (ViewController+Practice.cpp) ----
+    // The open lesson's record, kept beside its transcript. Checks, hints and
+    // the time spent on a segment (while the window is active and a reference
+    // text is attached) are recorded; nothing is written until something was.
+    const PracticeRecord& practiceRecord() const { return m_practice; }
+    // Writes the record now if it changed (the window closes).
+    void savePracticeRecord();
+    // What a row's tooltip says about its practice; empty for a row with none.
+    QString practiceSummary(qint64 row) const;
+    // While on, Next and Previous step through the hard segments only, in
+    // order and wrapping. It goes on at the first hard segment at or after
+    // the current one, and stays off when there is none.
+    void togglePractiseHardSentences();
+    bool isPractisingHardSentences() const { return m_practisingHard; }
+    // The day checks are recorded on and reviews fall due by (today unless
+    // a test says otherwise).
+    void setPracticeDaySource(std::function<QDate()> today);
+
     // ---- Typing journal (ViewController+Journal.cpp) ----
     // Commits what the journal holds to the disk now (row changes, quit).
     void syncJournal();
@@ -208,6 +228,8 @@ signals:
     void lessonShownChanged(bool shown);
     // A reference text was attached to the lesson shown, or went away.
     void referenceTextChanged(bool attached);
+    // Practise Hard Sentences went on or off.
+    void practisingHardSentencesChanged(bool on);
 
 private:
     // Every change of what the window shows goes through here.
@@ -270,6 +292,27 @@ private:
     // Every row emptied, the cutting kept.
     void clearAllRows();
     double playHeadPosition() const;
+
+    // The practice record (ViewController+Practice.cpp)
+    // The record of the lesson just shown, read from the store; the one
+    // before is saved first.
+    void openLessonPractice();
+    void closeLessonPractice();
+    void practiceTick();
+    void recordPracticeCheck(qint64 row);
+    void recordPracticeHint(qint64 row);
+    void practiceChanged();
+    QDate practiceDay() const;
+    QList<qsizetype> hardSegmentsNow() const;
+    bool isHardSegment(qint64 index) const;
+    // The hard segment after (+1) or before (-1) the current one, wrapping;
+    // nothing, and the mode off, when none is left.
+    std::optional<qsizetype> nextHardSegment(int direction);
+    void leaveHardSentences(bool noneLeft);
+    // The count of hard segments the status bar adds while the mode is on.
+    QString hardSentencesStatus() const;
+    void refreshDueCount();
+    void reportPracticeFault(const char* text, const QString& error);
 
     // Typing journal (ViewController+Journal.cpp)
     void buildJournal();
@@ -362,6 +405,20 @@ private:
 
     // The edits of the lesson shown's cutting; emptied when a lesson opens.
     QUndoStack* m_cuttingEdits = nullptr;
+
+    // The practice record of the lesson shown, under the identity it was
+    // read for; changes not yet saved, and the seconds since the last save.
+    PracticeRecord m_practice;
+    QString m_practiceIdentity;
+    bool m_practiceDirty = false;
+    // The stored record could not be read: it is never saved over.
+    bool m_practiceRefused = false;
+    // A fault is reported once a lesson.
+    bool m_practiceFaultShown = false;
+    int m_secondsSinceSave = 0;
+    std::shared_ptr<Timer> m_practiceTick;
+    std::function<QDate()> m_practiceDay;
+    bool m_practisingHard = false;
 
     // The typing journal of the lesson shown.
     std::unique_ptr<TypingJournal> m_journal;

@@ -563,3 +563,40 @@ inline constexpr std::array Cutting = {
     ShortcutMerge};
 
 } // namespace Texts
+
+// The practice record of each segment (the row's tooltip), the hard
+// sentences and the reviews that are due. Each %d is a count, each %@ in
+// PracticeScores a percentage, in PracticeSaveFailed and PracticeUnreadable
+// what went wrong.
+namespace Texts {
+
+inline constexpr const char* MenuPractiseHard =
+    QT_TRANSLATE_NOOP("Localizable", "Practise &Hard Sentences");
+inline constexpr const char* ShortcutPractiseHard =
+    QT_TRANSLATE_NOOP("Localizable", "Practise hard sentences");
+inline constexpr const char* HardSentencesLeft =
+    QT_TRANSLATE_NOOP("Localizable", "Hard sentences: %d left");
+inline constexpr const char* NoHardSentences =
+    QT_TRANSLATE_NOOP("Localizable", "No hard sentences in this lesson");
+inline constexpr const char* DueForReview = QT_TRANSLATE_NOOP("Localizable", "%d due for review");
+inline constexpr const char* PracticeCheckedOnce = QT_TRANSLATE_NOOP("Localizable", "Checked once");
+inline constexpr const char* PracticeCheckedTimes =
+    QT_TRANSLATE_NOOP("Localizable", "Checked %d times");
+inline constexpr const char* PracticeOneHint = QT_TRANSLATE_NOOP("Localizable", "1 hint");
+inline constexpr const char* PracticeHints = QT_TRANSLATE_NOOP("Localizable", "%d hints");
+inline constexpr const char* PracticeScores =
+    QT_TRANSLATE_NOOP("Localizable", "last %@, best %@");
+inline constexpr const char* PracticeMinutes = QT_TRANSLATE_NOOP("Localizable", "%d min %d s");
+inline constexpr const char* PracticeSeconds = QT_TRANSLATE_NOOP("Localizable", "%d s");
+inline constexpr const char* PracticeSaveFailed =
+    QT_TRANSLATE_NOOP("Localizable", "Your practice record could not be saved: %@");
+inline constexpr const char* PracticeUnreadable = QT_TRANSLATE_NOOP(
+    "Localizable", "Your practice record could not be read and is not saved over: %@");
+
+inline constexpr std::array Practice = {
+    MenuPractiseHard,     ShortcutPractiseHard, HardSentencesLeft,  NoHardSentences,
+    DueForReview,         PracticeCheckedOnce,  PracticeCheckedTimes, PracticeOneHint,
+    PracticeHints,        PracticeScores,       PracticeMinutes,    PracticeSeconds,
+    PracticeSaveFailed,   PracticeUnreadable};
+
+} // namespace Texts

@@ -26,6 +26,8 @@ inline constexpr const char* ShowNextWordShortcut = "kShowNextWordShortcut";
 // Fixing the cutting by hand.
 inline constexpr const char* SplitSegmentShortcut = "kSplitSegmentShortcut";
 inline constexpr const char* MergeSegmentsShortcut = "kMergeSegmentsShortcut";
+// Stepping through the hard sentences only.
+inline constexpr const char* PractiseHardShortcut = "kPractiseHardShortcut";
 
 // Interface language: the chosen code, and the one-element preference list read
 // at start-up to pick the translation. Neither has a registered value.

@@ -43,7 +43,7 @@ const char* const kShortcutTexts[ShortcutCount] = {
     Texts::ShortcutPrevious,   Texts::ShortcutNext,      Texts::ShortcutPlayPause,
     Texts::ShortcutRepeatPlay, Texts::ShortcutPlayFirst, Texts::ShortcutSplitAudio,
     Texts::ShortcutCheck,      Texts::ShortcutShowNextWord, Texts::ShortcutSplit,
-    Texts::ShortcutMerge};
+    Texts::ShortcutMerge,      Texts::ShortcutPractiseHard};
 
 QFormLayout* makeForm(QWidget* page)
 {

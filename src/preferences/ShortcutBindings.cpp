@@ -29,6 +29,8 @@ const std::array<ShortcutBinding, ShortcutCount>& shortcutBindings()
          KeyboardShortcut(Keyboard::KeyB, ModifierFlag::Control)},
         {ShortcutAction::MergeSegments, MergeSegmentsShortcut, "mergesegments",
          KeyboardShortcut(Keyboard::KeyJ, ModifierFlag::Control)},
+        {ShortcutAction::PractiseHard, PractiseHardShortcut, "practisehard",
+         KeyboardShortcut(Keyboard::KeyH, ModifierFlag::Control | ModifierFlag::Shift)},
     }};
     return bindings;
 }

@@ -9,7 +9,8 @@
 class ObjectStorage;
 
 // The commands that can be bound to a key: six for playback, two for the
-// check against a reference text, two for fixing the cutting.
+// check against a reference text, two for fixing the cutting, one for the
+// hard sentences.
 enum class ShortcutAction
 {
     PreviousSegment, // playPreviousSegment
@@ -22,6 +23,7 @@ enum class ShortcutAction
     ShowNextWord,    // showNextWord
     SplitSegment,    // splitSegmentAtPlayHead
     MergeSegments,   // mergeWithNextSegment
+    PractiseHard,    // togglePractiseHardSentences
 };
 
 struct ShortcutBinding
@@ -32,7 +34,7 @@ struct ShortcutBinding
     KeyboardShortcut defaultShortcut;
 };
 
-inline constexpr std::size_t ShortcutCount = 10;
+inline constexpr std::size_t ShortcutCount = 11;
 using ShortcutSet = std::array<KeyboardShortcut, ShortcutCount>;
 
 // The bindings in the order a key press is tested against them; the first match

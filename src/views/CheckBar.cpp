@@ -19,7 +19,8 @@ QString span(const QString& color, const QString& text, bool struck = false)
 } // namespace
 
 CheckBar::CheckBar(QWidget* parent)
-    : QWidget(parent), m_line(new QLabel(this)), m_scores(new QLabel(this))
+    : QWidget(parent), m_line(new QLabel(this)), m_scores(new QLabel(this)),
+      m_note(new QLabel(this))
 {
     setObjectName(QStringLiteral("checkBar"));
     setAutoFillBackground(true);
@@ -36,8 +37,12 @@ CheckBar::CheckBar(QWidget* parent)
     m_line->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_scores->setObjectName(QStringLiteral("checkBarScores"));
     m_scores->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_note->setObjectName(QStringLiteral("checkBarNote"));
+    m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_note->hide();
     layout->addWidget(m_line, 1);
     layout->addWidget(m_scores);
+    layout->addWidget(m_note);
     setColors(palette().color(QPalette::Window), palette().color(QPalette::WindowText));
 }
 
@@ -51,6 +56,7 @@ void CheckBar::setColors(const QColor& background, const QColor& text)
     setPalette(pal);
     m_line->setPalette(pal);
     m_scores->setPalette(pal);
+    m_note->setPalette(pal);
     refresh();
 }
 
@@ -58,6 +64,7 @@ void CheckBar::setTextFont(const QFont& font)
 {
     m_line->setFont(font);
     m_scores->setFont(font);
+    m_note->setFont(font);
     setMinimumHeight(QFontMetrics(font).height() + 8);
 }
 
@@ -125,6 +132,12 @@ void CheckBar::refresh()
     m_line->setAccessibleName(name);
 }
 
+void CheckBar::setNote(const QString& note)
+{
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+}
+
 QString CheckBar::shownMarkup() const
 {
     return m_line->text();
@@ -133,4 +146,9 @@ QString CheckBar::shownMarkup() const
 QString CheckBar::scoresText() const
 {
     return m_scores->text();
+}
+
+QString CheckBar::noteText() const
+{
+    return m_note->text();
 }

@@ -47,9 +47,13 @@ public:
                    const QString& summary);
     // Added after whatever is shown; an empty text takes it away.
     void setHint(const QString& hint);
+    // A word about the lesson at the bar's right end, whatever the line
+    // shows (the reviews that are due); an empty text takes it away.
+    void setNote(const QString& note);
 
     QString shownMarkup() const;
     QString scoresText() const;
+    QString noteText() const;
 
 private:
     void refresh();
@@ -57,6 +61,7 @@ private:
 
     QLabel* m_line = nullptr;
     QLabel* m_scores = nullptr;
+    QLabel* m_note = nullptr;
     QColor m_background;
     QColor m_text;
     QString m_markup;

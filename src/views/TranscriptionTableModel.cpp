@@ -26,6 +26,10 @@ QVariant TranscriptionTableModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= m_transcriptions.size())
         return {};
+    if (role == Qt::ToolTipRole) {
+        const QString tip = m_toolTipSource ? m_toolTipSource(index.row()) : QString();
+        return tip.isEmpty() ? QVariant() : QVariant(tip);
+    }
     if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::AccessibleTextRole)
         return {};
     if (index.column() == LineNumberColumn)
@@ -98,4 +102,9 @@ void TranscriptionTableModel::setShowLineNumbers(bool show)
         return;
     m_showLineNumbers = show;
     emit headerDataChanged(Qt::Horizontal, TranscriptionColumn, TranscriptionColumn);
+}
+
+void TranscriptionTableModel::setToolTipSource(std::function<QString(int)> source)
+{
+    m_toolTipSource = std::move(source);
 }

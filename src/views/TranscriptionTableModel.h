@@ -4,6 +4,7 @@
 #include <QAbstractTableModel>
 #include <QHash>
 #include <QStringList>
+#include <functional>
 
 // The rows of the dictation table: the segment number and the typed text of
 // each segment. Display and edit roles carry the texts, so accessibility tools
@@ -42,9 +43,13 @@ public:
     void clearCache() { m_cache.clear(); }
 
     void setShowLineNumbers(bool show);
+    // What a row's tooltip says, asked for when it shows; no tooltip when
+    // unset or empty.
+    void setToolTipSource(std::function<QString(int row)> source);
 
 private:
     QStringList m_transcriptions;
     QHash<int, QString> m_cache;
     bool m_showLineNumbers = true;
+    std::function<QString(int)> m_toolTipSource;
 };

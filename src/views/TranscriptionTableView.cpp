@@ -158,6 +158,15 @@ void TranscriptionTableView::clearAllRowMarks()
     viewport()->update();
 }
 
+void TranscriptionTableView::setRowToolTipSource(std::function<QString(qint64)> source)
+{
+    // The row's editor has no tooltip of its own, so a tooltip asked over it
+    // reaches the viewport and comes from here too.
+    m_model->setToolTipSource(
+        source ? std::function<QString(int)>([source](int row) { return source(row); })
+               : std::function<QString(int)>());
+}
+
 void TranscriptionTableView::updateTranscription(const QString& text, qint64 index)
 {
     if (index >= 0 && index < rowCount())

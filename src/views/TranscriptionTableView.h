@@ -11,6 +11,7 @@
 #include <QSize>
 #include <QStringList>
 #include <QTableView>
+#include <functional>
 #include <optional>
 
 class AudioManager;
@@ -62,6 +63,8 @@ public:
     // an empty RowMarks takes them away. Replacing the rows takes them all.
     void setRowMarks(qint64 row, const RowMarks& marks);
     void clearAllRowMarks();
+    // What a row's tooltip says (nothing when empty), asked for when it shows.
+    void setRowToolTipSource(std::function<QString(qint64 row)> source);
     RowMarks rowMarks(qint64 row) const { return m_rowMarks.value(int(row)); }
 
     // The live text field of a row (null when the row has none), and whether

@@ -43,7 +43,7 @@ const char* const kLessonCommands[] = {
     "clear",           "menuImportDictation", "menuExport",      "menuClearDictation",
     "menuPlayPause",   "menuPreviousSegment", "menuNextSegment", "menuRepeatMode",
     "menuFirstSegment", "menuSplitAudio",      "split",           "menuSplitSegment",
-    "menuMergeSegments", "menuStartEarlier"};
+    "menuMergeSegments", "menuStartEarlier", "menuPractiseHard"};
 
 QStringList enabledCommands(MainWindowController& window, bool enabled)
 {
@@ -327,6 +327,8 @@ TEST(MainWindowMenus, F10AndMnemonicsOpenTheMenusAndPlaybackShowsTheKeysBoundNow
                            "&Split the Audio Again\tF2", "Chec&k Segment\tCtrl+Return",
                            "Show Next &Word\tCtrl+H"}));
     closeMenus(h.window());
+    EXPECT_EQ(itemTexts(menu(h.window(), "menuView")),
+              (QStringList{"&Window Size", "Practise &Hard Sentences\tCtrl+Shift+H"}));
 
     ObjectStorage(h.defaults())
         .setKeyboardShortcut(KeyboardShortcut(45, ModifierFlag::Shift),

@@ -103,6 +103,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::Fingerprint.begin(), Texts::Fingerprint.end()));
     texts.append(QList<const char*>(Texts::Cutting.begin(), Texts::Cutting.end()));
     texts.append(QList<const char*>(Texts::PracticeSettings.begin(), Texts::PracticeSettings.end()));
+    texts.append(QList<const char*>(Texts::Practice.begin(), Texts::Practice.end()));
     return texts;
 }
 

@@ -128,7 +128,8 @@ TEST(PreferenceWindow, ShowsTheStoredSettingsAndDumpsThem)
     EXPECT_EQ(lines.value(start + 16), "check key,Return,keycode=36,modifierflags=262144");
     EXPECT_EQ(lines.value(start + 18), "splitsegment key,B,keycode=11,modifierflags=262144");
     EXPECT_EQ(lines.value(start + 19), "mergesegments key,J,keycode=38,modifierflags=262144");
-    EXPECT_EQ(lines.mid(start + 20, 5),
+    EXPECT_EQ(lines.value(start + 20), "practisehard key,H,keycode=4,modifierflags=393216");
+    EXPECT_EQ(lines.mid(start + 21, 5),
               (QStringList{"countPunctuation=1", "typoWeight=0.000000", "countCase=0",
                            "checkAsIType=1",
                            "====================================================================="}));

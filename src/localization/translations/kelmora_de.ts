@@ -902,6 +902,60 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Bis ich weitergehe</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>&amp;Schwierige Sätze üben</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>Schwierige Sätze üben</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>Schwierige Sätze: noch %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>Keine schwierigen Sätze in dieser Lektion</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d zur Wiederholung fällig</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>Einmal geprüft</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>%d-mal geprüft</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>1 Hinweis</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>%d Hinweise</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>zuletzt %@, bestes %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d Min. %d Sek.</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d Sek.</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>Dein Übungsverlauf konnte nicht gespeichert werden: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>Dein Übungsverlauf konnte nicht gelesen werden und wird nicht überschrieben: %@</translation>
     </message>
 </context>
 </TS>

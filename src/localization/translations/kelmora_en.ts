@@ -902,6 +902,60 @@ If you have any questions, email me: support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Until I move on</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>Practise &amp;Hard Sentences</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>Practise hard sentences</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>Hard sentences: %d left</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>No hard sentences in this lesson</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d due for review</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>Checked once</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>Checked %d times</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>1 hint</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>%d hints</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>last %@, best %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d min %d s</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d s</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>Your practice record could not be saved: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>Your practice record could not be read and is not saved over: %@</translation>
     </message>
 </context>
 </TS>

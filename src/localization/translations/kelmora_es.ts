@@ -902,6 +902,60 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Hasta que avance</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>Practicar frases &amp;difíciles</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>Practicar frases difíciles</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>Frases difíciles: quedan %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>No hay frases difíciles en esta lección</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d pendientes de repaso</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>Comprobada una vez</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>Comprobada %d veces</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>1 pista</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>%d pistas</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>última %@, mejor %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d min %d s</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d s</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>No se pudo guardar tu registro de práctica: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>No se pudo leer tu registro de práctica y no se sobrescribirá: %@</translation>
     </message>
 </context>
 </TS>

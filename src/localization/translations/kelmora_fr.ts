@@ -902,6 +902,60 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Jusqu'à ce que je passe à la suite</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>S’entraîner sur les phrases &amp;difficiles</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>S’entraîner sur les phrases difficiles</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>Phrases difficiles : encore %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>Aucune phrase difficile dans cette leçon</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d à réviser</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>Vérifiée une fois</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>Vérifiée %d fois</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>1 indice</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>%d indices</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>dernier %@, meilleur %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d min %d s</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d s</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>Impossible d’enregistrer votre suivi d’entraînement : %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>Impossible de lire votre suivi d’entraînement ; il ne sera pas écrasé : %@</translation>
     </message>
 </context>
 </TS>

@@ -902,6 +902,60 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>次へ進むまで</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>難しい文を練習(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>難しい文を練習</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>難しい文：残り %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>このレッスンに難しい文はありません</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d 件が復習時期</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>1 回チェック済み</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>%d 回チェック済み</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>ヒント 1 回</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>ヒント %d 回</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>前回 %@、最高 %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d 分 %d 秒</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d 秒</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>練習記録を保存できませんでした：%@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>練習記録を読み込めないため、上書きしません：%@</translation>
     </message>
 </context>
 </TS>

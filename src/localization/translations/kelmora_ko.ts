@@ -902,6 +902,60 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>다음으로 넘어갈 때까지</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>어려운 문장 연습(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>어려운 문장 연습</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>어려운 문장: %d개 남음</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>이 레슨에는 어려운 문장이 없습니다</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>복습할 문장 %d개</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>1번 확인함</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>%d번 확인함</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>힌트 1번</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>힌트 %d번</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>최근 %@, 최고 %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d분 %d초</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d초</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>연습 기록을 저장할 수 없습니다: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>연습 기록을 읽을 수 없어 덮어쓰지 않습니다: %@</translation>
     </message>
 </context>
 </TS>

@@ -902,6 +902,60 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>Пока не перейду дальше</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>Тренировать &amp;трудные предложения</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>Тренировать трудные предложения</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>Трудные предложения: осталось %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>В этом уроке нет трудных предложений</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>К повторению: %d</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>Проверено один раз</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>Проверено раз: %d</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>1 подсказка</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>Подсказок: %d</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>последний %@, лучший %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d мин %d с</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d с</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>Не удалось сохранить журнал занятий: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>Не удалось прочитать журнал занятий, он не будет перезаписан: %@</translation>
     </message>
 </context>
 </TS>

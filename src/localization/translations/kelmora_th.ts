@@ -902,6 +902,60 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>จนกว่าจะไปต่อ</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>ฝึกประโยคที่ยาก(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>ฝึกประโยคที่ยาก</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>ประโยคที่ยาก: เหลือ %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>บทเรียนนี้ไม่มีประโยคที่ยาก</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>ถึงเวลาทบทวน %d</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>ตรวจแล้ว 1 ครั้ง</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>ตรวจแล้ว %d ครั้ง</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>คำใบ้ 1 ครั้ง</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>คำใบ้ %d ครั้ง</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>ล่าสุด %@, ดีที่สุด %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d นาที %d วินาที</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d วินาที</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>บันทึกประวัติการฝึกไม่ได้: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>อ่านประวัติการฝึกไม่ได้ และจะไม่เขียนทับ: %@</translation>
     </message>
 </context>
 </TS>

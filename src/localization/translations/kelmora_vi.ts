@@ -902,6 +902,60 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
     <message>
         <source>Until I move on</source>
         <translation>Cho đến khi tôi chuyển tiếp</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>&amp;Luyện các câu khó</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>Luyện các câu khó</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>Câu khó: còn %d</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>Bài học này không có câu khó</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d câu cần ôn lại</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>Đã kiểm tra một lần</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>Đã kiểm tra %d lần</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>1 gợi ý</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>%d gợi ý</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>lần cuối %@, cao nhất %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d phút %d giây</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d giây</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>Không lưu được bản ghi luyện tập: %@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>Không đọc được bản ghi luyện tập và sẽ không ghi đè: %@</translation>
     </message>
 </context>
 </TS>

@@ -902,6 +902,60 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>直到我继续</translation>
+        <source>Practise &amp;Hard Sentences</source>
+        <translation>练习难句(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Practise hard sentences</source>
+        <translation>练习难句</translation>
+    </message>
+    <message>
+        <source>Hard sentences: %d left</source>
+        <translation>难句：剩余 %d 句</translation>
+    </message>
+    <message>
+        <source>No hard sentences in this lesson</source>
+        <translation>本课没有难句</translation>
+    </message>
+    <message>
+        <source>%d due for review</source>
+        <translation>%d 句待复习</translation>
+    </message>
+    <message>
+        <source>Checked once</source>
+        <translation>已检查 1 次</translation>
+    </message>
+    <message>
+        <source>Checked %d times</source>
+        <translation>已检查 %d 次</translation>
+    </message>
+    <message>
+        <source>1 hint</source>
+        <translation>提示 1 次</translation>
+    </message>
+    <message>
+        <source>%d hints</source>
+        <translation>提示 %d 次</translation>
+    </message>
+    <message>
+        <source>last %@, best %@</source>
+        <translation>最近 %@，最佳 %@</translation>
+    </message>
+    <message>
+        <source>%d min %d s</source>
+        <translation>%d 分 %d 秒</translation>
+    </message>
+    <message>
+        <source>%d s</source>
+        <translation>%d 秒</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be saved: %@</source>
+        <translation>无法保存练习记录：%@</translation>
+    </message>
+    <message>
+        <source>Your practice record could not be read and is not saved over: %@</source>
+        <translation>无法读取练习记录，不会覆盖它：%@</translation>
     </message>
 </context>
 </TS>
