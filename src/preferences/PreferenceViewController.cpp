@@ -88,17 +88,9 @@ void PreferenceViewController::setupUI()
     auto* layout = new QVBoxLayout(this);
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("preferenceTabs"));
-    // The General page is taller than the window; it scrolls rather than
-    // growing the window, and a field reached with Tab is scrolled to.
-    auto* general = new QScrollArea;
-    general->setObjectName(QStringLiteral("generalScrollArea"));
-    general->setWidget(buildGeneralTab());
-    general->setWidgetResizable(true);
-    general->setFrameShape(QFrame::NoFrame);
-    general->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_tabs->addTab(general, LocalizedString(Texts::TabGeneral));
+    m_tabs->addTab(scrollingPage(buildGeneralTab()), LocalizedString(Texts::TabGeneral));
     m_tabs->addTab(buildAppearanceTab(), LocalizedString(Texts::TabAppearance));
-    m_tabs->addTab(buildShortcutsTab(), LocalizedString(Texts::TabShortcuts));
+    m_tabs->addTab(scrollingPage(buildShortcutsTab()), LocalizedString(Texts::TabShortcuts));
     layout->addWidget(m_tabs);
 
     m_resetButton = new QPushButton(LocalizedString(Texts::ResetToDefaults), this);
@@ -124,6 +116,18 @@ void PreferenceViewController::setupUI()
     closeWindow->setShortcutContext(Qt::WindowShortcut);
     connect(closeWindow, &QAction::triggered, this, &QWidget::close);
     addAction(closeWindow);
+}
+
+QWidget* PreferenceViewController::scrollingPage(QWidget* page)
+{
+    // A page taller than the window scrolls rather than growing the window,
+    // and a field reached with Tab is scrolled to.
+    auto* scroll = new QScrollArea;
+    scroll->setWidget(page);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return scroll;
 }
 
 QWidget* PreferenceViewController::buildGeneralTab()

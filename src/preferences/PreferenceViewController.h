@@ -74,6 +74,7 @@ protected:
 
 private:
     void setupUI();
+    static QWidget* scrollingPage(QWidget* page);
     QWidget* buildGeneralTab();
     QWidget* buildAppearanceTab();
     QWidget* buildShortcutsTab();

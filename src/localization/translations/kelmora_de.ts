@@ -902,6 +902,8 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Bis ich weitergehe</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>&amp;Schwierige Sätze üben</translation>
     </message>

@@ -902,6 +902,8 @@ If you have any questions, email me: support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Until I move on</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>Practise &amp;Hard Sentences</translation>
     </message>

@@ -902,6 +902,8 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Hasta que avance</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>Practicar frases &amp;difíciles</translation>
     </message>

@@ -902,6 +902,8 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
     <message>
         <source>Until I move on</source>
         <translation>Jusqu'à ce que je passe à la suite</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>S’entraîner sur les phrases &amp;difficiles</translation>
     </message>

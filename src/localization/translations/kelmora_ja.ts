@@ -902,6 +902,8 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>次へ進むまで</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>難しい文を練習(&amp;H)</translation>
     </message>

@@ -902,6 +902,8 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>다음으로 넘어갈 때까지</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>어려운 문장 연습(&amp;H)</translation>
     </message>

@@ -902,6 +902,8 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>จนกว่าจะไปต่อ</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>ฝึกประโยคที่ยาก(&amp;H)</translation>
     </message>

@@ -902,6 +902,8 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
     <message>
         <source>Until I move on</source>
         <translation>Cho đến khi tôi chuyển tiếp</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>&amp;Luyện các câu khó</translation>
     </message>

@@ -902,6 +902,8 @@ If you have any questions, email me: support@kelmora.app.</source>
     <message>
         <source>Until I move on</source>
         <translation>直到我继续</translation>
+    </message>
+    <message>
         <source>Practise &amp;Hard Sentences</source>
         <translation>练习难句(&amp;H)</translation>
     </message>
