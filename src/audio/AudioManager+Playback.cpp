@@ -113,10 +113,9 @@ void AudioManager::playSegmentAtIndex(qint64 index)
     const double start = std::max(segment.start, 0.0);
     // The gap after the segment is played too: up to the next one's start.
     m_segmentEndSource = segmentEndSource(index);
-    const qint64 repetition = index != m_currentSegmentIndex
-                                  ? 1
-                                  : m_currentSegmentRepeatedTimes + (m_isRepeatMode ? 1 : 0);
-    m_slowRepetition = m_isRepeatMode && m_practice.slowerFirst && repetition == 1;
+    // Whether the count below makes this start the segment's first.
+    const bool first = index != m_currentSegmentIndex || m_currentSegmentRepeatedTimes == 0;
+    m_slowRepetition = m_isRepeatMode && m_practice.slowerFirst && first;
     if (m_audioPlayer) {
         // Before the move, so that the sound is made at this rate from its start.
         m_audioPlayer->setRate(playingRate());
@@ -160,7 +159,7 @@ void AudioManager::armEnd(PlayTimerRole role, double seconds)
             self->segmentEndTimerFired();
         } else if (role == PlayTimerRole::ResumeEnd) {
             self->resumeTimerFired();
-        } else {
+        } else { // the gap is over
             self->cancelPlayTimer();
             self->deliverPlaybackCompletion();
         }
