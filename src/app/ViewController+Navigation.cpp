@@ -101,8 +101,11 @@ void ViewController::preparePlaySegment()
     if (isProcessing())
         return;
     m_engine.stopPlayback();
-    if (m_engine.isRepeatMode() &&
-        static_cast<float>(m_engine.currentSegmentRepeatedTimes()) < m_engine.maxRepeatPlayTimes())
+    // Until the learner moves on, the count does not end the repeats.
+    const bool again =
+        m_engine.practiceOptions().repeatUntilMovedOn ||
+        static_cast<float>(m_engine.currentSegmentRepeatedTimes()) < m_engine.maxRepeatPlayTimes();
+    if (m_engine.isRepeatMode() && again)
         replayCurrentSegment();
     else
         playNextSegment();

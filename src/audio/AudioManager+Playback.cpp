@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Segment playback: the player, the one timer slot (segment end, resume or
-// position ticker), the repeat counter and the playback notifications.
+// Segment playback: the player, the one timer slot (segment end, resume, the
+// gap after a repetition or position ticker), the repeat counter, the
+// practice options and the playback notifications.
 
 #include "audio/AudioManager.h"
 #include "audio/AudioOutput.h"
@@ -30,6 +31,8 @@ constexpr double kEndOfFileTolerance = 0.1;
 // than a device takes at once when it starts.
 constexpr double kSegmentEndLead = 0.25;
 constexpr int kFadeSteps = 11;
+// The slower first repetition, as a share of the preferred rate.
+constexpr float kSlowerFirstFactor = 0.75f;
 } // namespace
 
 bool AudioManager::createAudioPlayer(const QString& path)
@@ -68,6 +71,26 @@ void AudioManager::cancelPlayTimer()
     }
     m_playTimerRole = PlayTimerRole::None;
     m_tickers.removeIf([](const std::shared_ptr<Timer>& t) { return !t->isValid(); });
+    m_gapPaused = false;
+}
+
+void AudioManager::setPracticeOptions(const PracticeOptions& options)
+{
+    m_practice = options;
+    m_practice.repeatGap = std::clamp(options.repeatGap, 0.0, MaxRepeatGap);
+    m_practice.rewindOnResume = std::clamp(options.rewindOnResume, 0.0, MaxRewindOnResume);
+}
+
+float AudioManager::playingRate() const
+{
+    return m_slowRepetition ? std::max(m_currentRate * kSlowerFirstFactor, AudioPlayer::kMinRate)
+                            : m_currentRate;
+}
+
+double AudioManager::segmentEndSource(qint64 index) const
+{
+    return index + 1 < m_segments.size() ? m_segments[index + 1].start
+                                         : m_segments[index].start + m_segments[index].duration;
 }
 
 void AudioManager::playSegmentAtIndex(qint64 index)
@@ -89,9 +112,13 @@ void AudioManager::playSegmentAtIndex(qint64 index)
     const Segment segment = m_segments[index];
     const double start = std::max(segment.start, 0.0);
     // The gap after the segment is played too: up to the next one's start.
-    m_segmentEndSource = index + 1 < m_segments.size() ? m_segments[index + 1].start
-                                                       : segment.start + segment.duration;
+    m_segmentEndSource = segmentEndSource(index);
+    // Whether the count below makes this start the segment's first.
+    const bool first = index != m_currentSegmentIndex || m_currentSegmentRepeatedTimes == 0;
+    m_slowRepetition = m_isRepeatMode && m_practice.slowerFirst && first;
     if (m_audioPlayer) {
+        // Before the move, so that the sound is made at this rate from its start.
+        m_audioPlayer->setRate(playingRate());
         // In repeat mode nothing past the segment may be heard before the
         // replay; otherwise the audio runs on into the next segment.
         if (m_isRepeatMode)
@@ -110,7 +137,7 @@ void AudioManager::playSegmentAtIndex(qint64 index)
 
     double length =
         index + 1 < m_segments.size() ? m_segments[index + 1].start - start : segment.duration;
-    length /= static_cast<double>(m_currentRate);
+    length /= static_cast<double>(playingRate());
     // The position ticker that play() stored in the slot is replaced, not
     // cancelled: it keeps posting positions.
     m_segmentEndRearms = 0;
@@ -128,10 +155,14 @@ void AudioManager::armEnd(PlayTimerRole role, double seconds)
     m_playTimer = m_clock->scheduledTimer(seconds, false, [self, role] {
         if (!self)
             return;
-        if (role == PlayTimerRole::SegmentEnd)
+        if (role == PlayTimerRole::SegmentEnd) {
             self->segmentEndTimerFired();
-        else
+        } else if (role == PlayTimerRole::ResumeEnd) {
             self->resumeTimerFired();
+        } else { // the gap is over
+            self->cancelPlayTimer();
+            self->deliverPlaybackCompletion();
+        }
     });
     m_playTimerRole = role;
 }
@@ -158,11 +189,21 @@ void AudioManager::segmentEndTimerFired()
     cancelPlayTimer();
     if (m_isRepeatMode) {
         m_center.post(Notifications::AutoUpdateWavePosDidUpdate, QVariant(false));
-        deliverPlaybackCompletion();
+        finishRepetition();
     } else {
         // The audio plays on into the next segment; the display follows it.
         m_center.post(Notifications::AutoUpdateWavePosDidUpdate, QVariant(true));
     }
+}
+
+void AudioManager::finishRepetition()
+{
+    // The player stays as it is: its span is over, so the gap is silence with
+    // the play head at the segment's end.
+    if (m_practice.repeatGap > 0.0)
+        armEnd(PlayTimerRole::RepeatGap, m_practice.repeatGap);
+    else
+        deliverPlaybackCompletion();
 }
 
 void AudioManager::deliverPlaybackCompletion()
@@ -189,9 +230,11 @@ void AudioManager::play()
 
 void AudioManager::pause()
 {
+    const bool gap = isInRepeatGap() || m_gapPaused;
     if (m_audioPlayer)
         m_audioPlayer->pause();
     cancelPlayTimer();
+    m_gapPaused = gap;
     postStatus(Notifications::AudioPlaybackDidPause, 2);
 }
 
@@ -205,9 +248,11 @@ void AudioManager::stop()
 
 void AudioManager::pausePlayback()
 {
+    const bool gap = isInRepeatGap() || m_gapPaused;
     if (m_audioPlayer)
         m_audioPlayer->pause();
     cancelPlayTimer();
+    m_gapPaused = gap;
     postStatus(Notifications::AudioPlaybackDidPause, 0);
 }
 
@@ -220,18 +265,43 @@ void AudioManager::stopPlayback()
 
 void AudioManager::resumePlayback()
 {
+    if (isInRepeatGap() || m_gapPaused) {
+        // The repetition was heard to its end: rather than more silence, the
+        // loop goes on at once with the next repetition or segment.
+        cancelPlayTimer();
+        postStatus(Notifications::AudioPlaybackDidResume, 3);
+        deliverPlaybackCompletion();
+        return;
+    }
+    const bool inSegment = m_currentSegmentIndex >= 0 && m_currentSegmentIndex < m_segments.size();
+    double now = m_audioPlayer ? m_audioPlayer->currentTime() : 0.0;
+    bool rewound = false;
+    if (m_audioPlayer && inSegment && m_practice.rewindOnResume > 0.0) {
+        // A step back to pick up the words cut by the pause, never into the
+        // segment before; in repeat mode still nothing past the segment.
+        const double start = std::max(m_segments[m_currentSegmentIndex].start, 0.0);
+        const double from = std::max(now - m_practice.rewindOnResume, start);
+        if (from < now) {
+            if (m_isRepeatMode)
+                m_audioPlayer->setCurrentTime(from, segmentEndSource(m_currentSegmentIndex));
+            else
+                m_audioPlayer->setCurrentTime(from);
+            now = from;
+            rewound = true;
+        }
+    }
     if (m_audioPlayer) {
-        m_audioPlayer->setRate(m_currentRate);
+        m_audioPlayer->setRate(playingRate());
         m_audioPlayer->play();
     }
-    if (m_currentSegmentIndex >= 0 && m_currentSegmentIndex < m_segments.size()) {
+    if (inSegment) {
         const Segment segment = m_segments[m_currentSegmentIndex];
-        const double now = m_audioPlayer ? m_audioPlayer->currentTime() : 0.0;
-        double length = m_currentSegmentIndex + 1 < m_segments.size()
-                            ? m_segments[m_currentSegmentIndex + 1].start - now
-                            : segment.start + segment.duration - m_savedPlaybackPosition;
+        double length =
+            m_currentSegmentIndex + 1 < m_segments.size()
+                ? m_segments[m_currentSegmentIndex + 1].start - now
+                : segment.start + segment.duration - (rewound ? now : m_savedPlaybackPosition);
         m_resumeEndSource = now + length;
-        length /= static_cast<double>(m_currentRate);
+        length /= static_cast<double>(playingRate());
         armEnd(PlayTimerRole::ResumeEnd, length);
     }
     postStatus(Notifications::AudioPlaybackDidResume, 3);
@@ -240,9 +310,12 @@ void AudioManager::resumePlayback()
 void AudioManager::resumeTimerFired()
 {
     // Unlike the segment-end timer this one always stops and always hands
-    // back, in either mode.
+    // back, in either mode; in repeat mode it ends a repetition, gap and all.
     stopPlayback();
-    deliverPlaybackCompletion();
+    if (m_isRepeatMode)
+        finishRepetition();
+    else
+        deliverPlaybackCompletion();
 }
 
 bool AudioManager::isPlaying() const
@@ -257,7 +330,8 @@ void AudioManager::setPlaybackRate(float rate)
     m_audioPlayer->setEnableRate(true);
     const float before = m_currentRate;
     m_currentRate = std::clamp(rate, AudioPlayer::kMinRate, AudioPlayer::kMaxRate);
-    m_audioPlayer->setRate(m_currentRate);
+    // During the slower first repetition the new rate is slowed the same way.
+    m_audioPlayer->setRate(playingRate());
     if (m_currentRate != before) {
         retimePlayTimer();
         m_center.post(Notifications::AudioPlaybackRateDidChange, QVariant::fromValue(this));
@@ -276,7 +350,7 @@ void AudioManager::retimePlayTimer()
         return;
     const double end = segmentEnd ? m_segmentEndSource : m_resumeEndSource;
     const double left =
-        std::max(end - m_audioPlayer->currentTime(), 0.0) / static_cast<double>(m_currentRate);
+        std::max(end - m_audioPlayer->currentTime(), 0.0) / static_cast<double>(playingRate());
     m_playTimer->invalidate();
     if (segmentEnd) {
         m_segmentEndRearms = 0;

@@ -29,6 +29,7 @@ AudioManager::AudioManager(Defaults& defaults, NotificationCenter& center, QObje
     qRegisterMetaType<Segment>();
     qRegisterMetaType<SegmentList>();
     loadSettings();
+    m_practice = storedPracticeOptions(m_defaults);
 }
 
 AudioManager::~AudioManager()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "audio/Segment.h"
+#include "preferences/PracticePreferences.h"
 
 #include <QList>
 #include <QObject>
@@ -155,6 +156,15 @@ public:
     void setPlaybackRate(float rate);
     void setRepeatTimes(qint64 times);
     void saveMaxRepeatTimesSetting(qint64 times);
+    // The practice loop's options, the stored ones until set; a change applies
+    // from the next repetition. The gap and the rewind are kept in range.
+    void setPracticeOptions(const PracticeOptions& options);
+    const PracticeOptions& practiceOptions() const { return m_practice; }
+    // In repeat mode, the silence after a repetition: the play head rests at
+    // the segment's end and the completion waits for the gap to pass. Any
+    // navigation, stop or pause ends it; Play after that pause, or during a
+    // gap that followed a resumed stretch, goes straight on with the loop.
+    bool isInRepeatGap() const { return m_playTimerRole == PlayTimerRole::RepeatGap; }
     // The ticker's action; `tickers` notifications are posted for one reading
     // of the position.
     void updatePlaybackPosition(int tickers = 1);
@@ -187,7 +197,8 @@ private:
         None,
         Ticker,
         SegmentEnd,
-        ResumeEnd
+        ResumeEnd,
+        RepeatGap
     };
 
     bool fail(const QString& reason);
@@ -195,8 +206,17 @@ private:
     void cancelPlayTimer();
     void segmentEndTimerFired();
     void resumeTimerFired();
-    // Arms the slot with the end of a segment or of a resumed stretch.
+    // Arms the slot with the end of a segment, of a resumed stretch or of the
+    // gap after a repetition.
     void armEnd(PlayTimerRole role, double seconds);
+    // A repetition is over: the completion now, or after the gap.
+    void finishRepetition();
+    // The rate the sound plays at: the preferred one, slower for the first
+    // repetition of a segment when the options ask for it.
+    float playingRate() const;
+    // Source seconds where a segment's sound ends: the next one's start, or
+    // its own end for the last.
+    double segmentEndSource(qint64 index) const;
     void retimePlayTimer();
     void deliverPlaybackCompletion();
     void postStatus(const char* name, int status);
@@ -283,6 +303,9 @@ private:
     bool m_isRepeatMode = true;
     bool m_isPlaybackFinished = false;
     double m_savedPlaybackPosition = 0.0;
+    PracticeOptions m_practice;
+    bool m_slowRepetition = false; // the playing repetition is the slower first one
+    bool m_gapPaused = false;      // a pause ended a gap; the loop goes on at the next Play
     PlaybackCompletionHandler m_playbackCompletionHandler;
     std::unique_ptr<QThreadPool> m_fadeQueue;
 };

@@ -136,10 +136,16 @@ int Cli::play(const QStringList& args)
     if (options.segment) {
         const qint64 index = *options.segment;
         const Segment s = engine.segments()[index];
-        std::printf("segment %lld: %.3f s to %.3f s, %lld time%s at %.2fx\n",
+        // The stored practice options play here as in the window.
+        const PracticeOptions& practice = engine.practiceOptions();
+        std::printf("segment %lld: %.3f s to %.3f s, %lld time%s at %.2fx%s",
                     static_cast<long long>(index), s.start, s.end(),
                     static_cast<long long>(options.repeat), options.repeat == 1 ? "" : "s",
-                    static_cast<double>(engine.currentRate()));
+                    static_cast<double>(engine.currentRate()),
+                    practice.slowerFirst ? ", the first slower" : "");
+        if (practice.repeatGap > 0.0)
+            std::printf(", %.1f s of silence after each", practice.repeatGap);
+        std::printf("\n");
         engine.setRepeatMode(true);
         engine.setRepeatTimes(options.repeat);
         engine.setPlaybackCompletionHandler([&engine, &options, &finish, index] {

@@ -208,7 +208,8 @@ TEST_F(SessionKeys, F2CutsTheFileAgainAndReloadsItsStoredTranscriptKeepingNewerT
     EXPECT_EQ(current(), 0);
 }
 
-TEST(SessionRepeat, EachSegmentPlaysThePreferredNumberOfTimesAtTheRateSetWhileItRepeats)
+TEST(SessionRepeat,
+     EachSegmentPlaysThePreferredNumberOfTimesAtTheRateSetWhileItRepeatsOrUntilMovedOn)
 {
     VirtualClock clock;
     WindowHarness h;
@@ -257,4 +258,24 @@ TEST(SessionRepeat, EachSegmentPlaysThePreferredNumberOfTimesAtTheRateSetWhileIt
     EXPECT_TRUE(h.engine().isPlaying());
     // Three plays of segment 0 take at least three times its length.
     EXPECT_GE(clock.now(), 3 * std::min(first.duration, nextStart - first.start) - 0.3);
+
+    // Until the learner moves on, the count no longer ends the repeats; the
+    // move starts the count again.
+    PracticeOptions options;
+    options.repeatUntilMovedOn = true;
+    h.engine().setPracticeOptions(options);
+    deadline.restart();
+    while (h.engine().currentSegmentRepeatedTimes() < 5 && deadline.elapsed() < 30000) {
+        clock.advance(0.25);
+        QTest::qWait(5);
+    }
+    EXPECT_EQ(h.engine().currentSegmentRepeatedTimes(), 5);
+    EXPECT_EQ(h.session().currentSegmentIndex(), 1);
+    ASSERT_TRUE(waitFor([&] {
+        return QApplication::focusWidget() == h.session().transcriptionTableView()->editorForRow(1);
+    }));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(h.session().currentSegmentIndex(), 2);
+    EXPECT_EQ(h.engine().currentSegmentIndex(), 2);
+    EXPECT_EQ(h.engine().currentSegmentRepeatedTimes(), 1);
 }

@@ -16,8 +16,10 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QThread>
+#include <functional>
 #include <gtest/gtest.h>
 #include <thread>
+#include <utility>
 
 using TestSupport::fixture;
 
@@ -252,6 +254,154 @@ TEST_F(PlaybackEngine, ResumeTimerRunsToTheNextStartFromThePositionOrToTheSavedP
     EXPECT_FALSE(engine->isPlaying());
     TestSupport::processEvents();
     EXPECT_EQ(completions, 2);
+}
+
+// The silence after a repetition: the completion comes the gap later, after
+// the segment's end or a resumed stretch's, unless something ends the gap.
+TEST_F(PlaybackEngine, TheGapAfterARepetitionDelaysTheCompletionUntilNavigationOrPauseEndsIt)
+{
+    PracticeOptions options;
+    options.repeatGap = 1.5;
+    engine->setPracticeOptions(options);
+    // `passed`: how much of the gap the clock has already run.
+    const auto expectCompletionAfterGap = [&](double passed) {
+        const int before = completions;
+        EXPECT_TRUE(engine->isInRepeatGap());
+        clock.advance(1.5 - passed - 5e-5);
+        TestSupport::processEvents();
+        EXPECT_EQ(completions, before) << "the gap ended early";
+        EXPECT_TRUE(engine->isInRepeatGap());
+        clock.advance(1e-4);
+        EXPECT_FALSE(engine->isInRepeatGap());
+        TestSupport::processEvents();
+        EXPECT_EQ(completions, before + 1);
+    };
+    engine->playSegmentAtIndex(1);
+    expectSegmentEndAfter(2.8, endFalse());
+    EXPECT_TRUE(engine->isPlaying()) << "the gap is part of the playing loop";
+    expectCompletionAfterGap(1e-4);
+
+    // A pause stretch resumed in repeat mode ends a repetition too.
+    engine->stopPlayback();
+    engine->playSegmentAtIndex(3);
+    engine->pausePlayback();
+    engine->audioPlayer()->setCurrentTime(10.0);
+    engine->resumePlayback();
+    clock.advance(1.5 + 1e-5);
+    EXPECT_FALSE(engine->isPlaying());
+    expectCompletionAfterGap(1e-5);
+
+    const std::pair<const char*, std::function<void()>> enders[] = {
+        {"another segment", [&] { engine->playSegmentAtIndex(2); }},
+        {"stop", [&] { engine->stop(); }},
+        {"stopPlayback", [&] { engine->stopPlayback(); }},
+        {"pause", [&] { engine->pause(); }},
+        {"pausePlayback", [&] { engine->pausePlayback(); }},
+    };
+    for (const auto& [what, end] : enders) {
+        SCOPED_TRACE(what);
+        engine->stopPlayback();
+        engine->playSegmentAtIndex(1);
+        clock.advance(2.8 + 1e-3);
+        ASSERT_TRUE(engine->isInRepeatGap());
+        const int before = completions;
+        end();
+        EXPECT_FALSE(engine->isInRepeatGap());
+        clock.advance(2.0); // past the gap, short of segment 2's end
+        TestSupport::processEvents();
+        EXPECT_EQ(completions, before);
+    }
+    // Play after a pause that ended the gap goes on with the loop at once.
+    engine->resumePlayback();
+    TestSupport::processEvents();
+    EXPECT_EQ(completions, 3);
+    EXPECT_EQ(events.last(), QString(Notifications::AudioPlaybackDidResume) + ":3");
+    // So does Play during the gap after a resumed stretch, with nothing playing.
+    engine->stopPlayback();
+    engine->playSegmentAtIndex(3);
+    engine->pausePlayback();
+    engine->resumePlayback();
+    clock.advance(3.5 + 1e-4);
+    ASSERT_TRUE(engine->isInRepeatGap());
+    engine->resumePlayback();
+    EXPECT_FALSE(engine->isInRepeatGap());
+    TestSupport::processEvents();
+    EXPECT_EQ(completions, 4);
+
+    // Outside repeat mode there is no gap: the audio plays on.
+    engine->setRepeatMode(false);
+    engine->playSegmentAtIndex(4);
+    expectSegmentEndAfter(1.5, endTrue());
+    EXPECT_FALSE(engine->isInRepeatGap());
+}
+
+// The first repetition of a segment at three quarters of the preferred rate
+// (never below the slowest), the rest at the rate; and Play after a pause
+// stepping back within the segment.
+TEST_F(PlaybackEngine, TheFirstRepetitionPlaysSlowerAndResumeStepsBackWithinTheSegment)
+{
+    PracticeOptions options;
+    options.slowerFirst = true;
+    engine->setPracticeOptions(options);
+    const double span = 8.0 - 4.8; // segment 2
+    for (const auto& [rate, slow] : {std::pair{1.0f, 0.75f}, {2.0f, 1.5f}, {0.35f, 0.3f}}) {
+        SCOPED_TRACE(rate);
+        engine->setPlaybackRate(rate);
+        engine->playSegmentAtIndex(0);
+        engine->stopPlayback();
+        engine->playSegmentAtIndex(2);
+        EXPECT_EQ(engine->currentSegmentRepeatedTimes(), 1) << "the count restarts per segment";
+        EXPECT_FLOAT_EQ(engine->audioPlayer()->rate(), slow);
+        EXPECT_FLOAT_EQ(engine->currentRate(), rate) << "the preferred rate is shown";
+        expectSegmentEndAfter(span / slow, endFalse());
+        engine->stopPlayback();
+        engine->playSegmentAtIndex(2);
+        EXPECT_FLOAT_EQ(engine->audioPlayer()->rate(), rate);
+        expectSegmentEndAfter(span / rate, endFalse());
+        engine->stopPlayback();
+    }
+    // A new rate during the slow repetition is slowed for the rest of it.
+    engine->setPlaybackRate(1.0f);
+    engine->playSegmentAtIndex(3);
+    clock.advance(1.0);
+    engine->setPlaybackRate(2.0f);
+    EXPECT_FLOAT_EQ(engine->audioPlayer()->rate(), 1.5f);
+    expectSegmentEndAfter((11.5 - 8.0) / 1.5, endFalse());
+
+    // Resuming steps back, never before the segment's start, and the end is
+    // timed from there at the rate playing (the slow one, still).
+    options.rewindOnResume = 2.0;
+    engine->setPracticeOptions(options);
+    engine->setPlaybackRate(1.0f);
+    for (const auto& [paused, from] : {std::pair{7.0, 5.0}, {5.5, 4.8}}) {
+        SCOPED_TRACE(paused);
+        engine->stopPlayback();
+        engine->playSegmentAtIndex(0);
+        engine->stopPlayback();
+        engine->playSegmentAtIndex(2);
+        engine->pausePlayback();
+        engine->audioPlayer()->setCurrentTime(paused);
+        engine->resumePlayback();
+        EXPECT_DOUBLE_EQ(engine->audioPlayer()->currentTime(), from);
+        EXPECT_FLOAT_EQ(engine->audioPlayer()->rate(), 0.75f);
+        TestSupport::processEvents(); // the repetitions' completions so far
+        const int before = completions;
+        clock.advance((8.0 - from) / 0.75 - 1e-4);
+        EXPECT_TRUE(engine->isPlaying());
+        clock.advance(2e-4);
+        EXPECT_FALSE(engine->isPlaying());
+        TestSupport::processEvents();
+        EXPECT_EQ(completions, before + 1);
+    }
+
+    // Outside repeat mode nothing is slowed; resuming still steps back.
+    engine->setRepeatMode(false);
+    engine->playSegmentAtIndex(1);
+    EXPECT_FLOAT_EQ(engine->audioPlayer()->rate(), 1.0f);
+    engine->pausePlayback();
+    engine->audioPlayer()->setCurrentTime(3.0);
+    engine->resumePlayback();
+    EXPECT_DOUBLE_EQ(engine->audioPlayer()->currentTime(), 2.0);
 }
 
 TEST_F(PlaybackEngine, NotificationsCarryTheirStatusCodesInOrder)

@@ -202,6 +202,72 @@ TEST_F(RealSound, RepetitionsRestartAtTheFirstSampleWithShortGaps)
     }
 }
 
+// With a gap and the first repetition slower: three stretches of sound, the
+// first a third longer than the others, each gap the silence asked for.
+TEST_F(RealSound, RepetitionsAreSeparatedByTheGapAndTheFirstIsSlower)
+{
+    const qint64 index = 1;
+    const double length = spanOf(index);
+    const double gap = 2.0;
+    PracticeOptions options;
+    options.repeatGap = gap;
+    options.slowerFirst = true;
+    engine->setPracticeOptions(options);
+    engine->setPlaybackRate(1.0f);
+    engine->setRepeatMode(true);
+    const double expected[] = {length / 0.75, length, length};
+    constexpr double kTolerance = 0.025;
+    std::vector<Sound> runs;
+    Take take;
+    // How far the take is from what was asked: the worst burst or gap.
+    double worst = 0;
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+        int plays = 0;
+        bool over = false;
+        engine->setPlaybackCompletionHandler([&] {
+            engine->stopPlayback();
+            if (++plays < 3)
+                engine->playSegmentAtIndex(index);
+            else
+                over = true;
+        });
+        take = record(
+            *pulse, *engine->audioPlayer(), length / 0.75 + 2 * length + 3 * gap,
+            [&] {
+                engine->setCurrentSegmentIndex(-1);
+                engine->playSegmentAtIndex(index);
+            },
+            [&] { return over; });
+        if (!take.error.isEmpty())
+            break;
+        runs = soundRuns(take.capture);
+        worst = runs.size() == 3 ? 0.0 : 1.0;
+        std::printf("take %d: %zu stretches of sound:", attempt, runs.size());
+        for (size_t i = 0; i < runs.size(); ++i) {
+            const double heard = runs[i].to - runs[i].from;
+            std::printf(" %.3f s", heard);
+            if (i < 3)
+                worst = std::max(worst, std::fabs(heard - expected[i]));
+            if (i > 0) {
+                std::printf(" (after %.3f s)", runs[i].from - runs[i - 1].to);
+                worst = std::max(worst, std::fabs(runs[i].from - runs[i - 1].to - gap));
+            }
+        }
+        std::printf(", %d underruns, %d at the sink\n", take.starved, take.sinkUnderruns);
+        if (!take.disturbed() && worst <= kTolerance)
+            break;
+    }
+    ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
+    ASSERT_EQ(runs.size(), 3u) << "three repetitions, each without a break";
+    for (size_t i = 0; i < 3; ++i) {
+        EXPECT_NEAR(runs[i].to - runs[i].from, expected[i], kTolerance) << "repetition " << i + 1;
+        if (i > 0) {
+            EXPECT_NEAR(runs[i].from - runs[i - 1].to, gap, kTolerance)
+                << "the gap before repetition " << i + 1;
+        }
+    }
+}
+
 // Outside repeat mode the segment's end only moves the display: the sound
 // runs on into the next segment without a gap.
 TEST_F(RealSound, OutsideRepeatModePlaybackRunsThroughTheBoundaryWithoutAGap)
