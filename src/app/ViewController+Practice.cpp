@@ -149,6 +149,11 @@ void ViewController::practiceChanged()
 {
     m_practiceDirty = true;
     savePracticeRecord();
+    refreshPracticeView();
+}
+
+void ViewController::refreshPracticeView()
+{
     refreshDueCount();
     if (m_practisingHard) {
         if (hardSegmentsNow().isEmpty())

@@ -14,6 +14,7 @@
 #include "localization/LocalizedTexts.h"
 #include "preferences/Defaults.h"
 #include "preferences/ObjectStorage.h"
+#include "preferences/PracticePreferences.h"
 #include "preferences/PreferenceKeys.h"
 #include "transcript/TypingJournal.h"
 #include "views/CheckBar.h"
@@ -189,6 +190,13 @@ void ViewController::listenNotifications()
     m_center.addObserver(Notifications::AutoUpdateWavePosDidUpdate, this,
                          [this](const NotificationCenter::Notification&) {
                              m_waveformView->setAutoUpdatePos(!m_engine.isRepeatMode());
+                         });
+    // The engine plays a changed gap, slower first or step back from its
+    // next repetition; a new threshold changes which sentences are hard.
+    m_center.addObserver(Notifications::PracticeOptionsDidChange, this,
+                         [this](const NotificationCenter::Notification&) {
+                             m_engine.setPracticeOptions(storedPracticeOptions(m_defaults));
+                             refreshPracticeView();
                          });
 }
 

@@ -302,6 +302,8 @@ private:
     void recordPracticeCheck(qint64 row);
     void recordPracticeHint(qint64 row);
     void practiceChanged();
+    // The due count and the hard-sentence status, after a new threshold or record.
+    void refreshPracticeView();
     QDate practiceDay() const;
     QList<qsizetype> hardSegmentsNow() const;
     bool isHardSegment(qint64 index) const;
