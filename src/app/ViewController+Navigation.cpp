@@ -16,6 +16,7 @@
 
 void ViewController::playSegement(qint64 index)
 {
+    m_pedalReleased = false;
     updateUIForCurrentSegment(index);
     m_engine.playSegmentAtIndex(index);
 }
@@ -66,6 +67,7 @@ void ViewController::replayCurrentSegment()
 {
     if (isProcessing())
         return;
+    m_pedalReleased = false;
     stopAutoUpdateWavePos();
     m_engine.playSegmentAtIndex(m_currentSegmentIndex);
 }
@@ -92,13 +94,21 @@ void ViewController::togglePlayPause()
 
 void ViewController::setPlayHeld(bool held)
 {
-    if (held != m_engine.isPlaying())
-        togglePlayPause();
+    if (isProcessing() || m_engine.numberOfSegments() == 0)
+        return;
+    // Let go between two repetitions, the pedal must stop the loop as well
+    // as the sound: a repetition already on its way is not started.
+    m_pedalReleased = !held;
+    if (held && !m_engine.isPlaying())
+        m_engine.resumePlayback();
+    else if (!held)
+        m_engine.pausePlayback();
+    updateStatusBar();
 }
 
 void ViewController::preparePlaySegment()
 {
-    if (isProcessing())
+    if (isProcessing() || m_pedalReleased)
         return;
     m_engine.stopPlayback();
     // Until the learner moves on, the count does not end the repeats.

@@ -342,6 +342,8 @@ private:
 
     AudioManager& m_engine;
     NotificationCenter& m_center;
+    // The hold-to-play key came up: playback waits for it, not for the loop.
+    bool m_pedalReleased = false;
     Defaults& m_defaults;
     TranscriptionManager& m_transcriptions;
     const DocumentManager& m_documents;
