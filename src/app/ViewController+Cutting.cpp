@@ -57,7 +57,8 @@ void ViewController::pushCuttingEdit(const char* name, LessonCutting after, qint
 void ViewController::applyCutting(const CuttingCommand::State& state)
 {
     const LessonCutting& cutting = state.cutting;
-    const bool sameSegments = m_engine.segments() == cutting.segments;
+    const SegmentList before = m_engine.segments();
+    const bool sameSegments = before == cutting.segments;
     if (!m_engine.updateSegments(cutting.segments)) {
         qCWarning(lcApp, "The engine refused an edited cutting of %lld segments",
                   qlonglong(cutting.segments.size()));
@@ -84,6 +85,11 @@ void ViewController::applyCutting(const CuttingCommand::State& state)
     if (sameSegments)
         journalAllRows();
     autoSaveTranscription(true);
+    // What was practised stays with its sentence.
+    if (!sameSegments && !m_practice.isEmpty()) {
+        m_practice = m_practice.remapped(CuttingEdits::carriedTo(before, cutting.segments));
+        practiceChanged();
+    }
 }
 
 void ViewController::clearAllRows()

@@ -169,6 +169,29 @@ bool PracticeRecord::addTime(qsizetype index, double seconds)
     return true;
 }
 
+PracticeRecord PracticeRecord::remapped(const QList<qsizetype>& to) const
+{
+    PracticeRecord record;
+    for (qsizetype i = 0; i < m_segments.size() && i < to.size(); ++i) {
+        const SegmentPractice& from = m_segments[i];
+        SegmentPractice* into = from.isEmpty() ? nullptr : record.grownTo(to[i]);
+        if (!into)
+            continue;
+        into->checks += from.checks;
+        into->hints += from.hints;
+        into->secondsSpent += from.secondsSpent;
+        if (from.best)
+            into->best = std::max(into->best.value_or(0.0), *from.best);
+        if (from.last)
+            into->last = from.last;
+        QList<QDate> days = into->checkDates + from.checkDates;
+        std::sort(days.begin(), days.end());
+        days.erase(std::unique(days.begin(), days.end()), days.end());
+        into->checkDates = days;
+    }
+    return record;
+}
+
 QByteArray PracticeRecord::toJson() const
 {
     QJsonArray segments;

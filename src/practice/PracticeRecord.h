@@ -44,6 +44,11 @@ public:
     bool recordCheck(qsizetype index, double score, QDate day);
     bool recordHint(qsizetype index);
     bool addTime(qsizetype index, double seconds);
+    // The record for a new cutting, where segment i went to segment to[i]
+    // (-1: nowhere). Segments that went to the same one are added up: their
+    // checks, hints and time, the best of their bests, the later segment's
+    // last score, and their check days.
+    PracticeRecord remapped(const QList<qsizetype>& to) const;
 
     // UTF-8 JSON: {"version": 1, "segments": [{"checks", "hints", "best",
     // "last", "seconds", "checkDates": ["yyyy-MM-dd", ...]}, ...]}; "best" and

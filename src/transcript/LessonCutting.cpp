@@ -30,9 +30,9 @@ qsizetype segmentAt(const SegmentList& segments, double seconds)
     if (segments.isEmpty() || seconds < segments.first().start)
         return -1;
     // The last segment whose start is not after `seconds`.
-    const auto after = std::upper_bound(
-        segments.cbegin(), segments.cend(), seconds,
-        [](double t, const Segment& segment) { return t < segment.start; });
+    const auto after =
+        std::upper_bound(segments.cbegin(), segments.cend(), seconds,
+                         [](double t, const Segment& segment) { return t < segment.start; });
     const qsizetype index = (after - segments.cbegin()) - 1;
     return seconds <= segments[index].end() + kSlack ? index : -1;
 }
@@ -85,8 +85,8 @@ double allowedStart(const SegmentList& segments, qsizetype index, double seconds
     if (index <= 0 || index >= segments.size())
         return index == 0 && !segments.isEmpty() ? segments.first().start : seconds;
     const double lowest = segments[index - 1].start + kShortestPart;
-    const double end = index + 1 < segments.size() ? segments[index + 1].start
-                                                   : segments[index].end();
+    const double end =
+        index + 1 < segments.size() ? segments[index + 1].start : segments[index].end();
     const double highest = end - kShortestPart;
     if (highest < lowest)
         return segments[index].start;
@@ -113,6 +113,28 @@ std::optional<LessonCutting> moveStart(const LessonCutting& cutting, qsizetype i
     previous.duration = at - previous.start;
     result.segments[index] = Segment{at, old.end() - at};
     return result;
+}
+
+QList<qsizetype> carriedTo(const SegmentList& before, const SegmentList& after)
+{
+    QList<qsizetype> to;
+    to.reserve(before.size());
+    for (const Segment& old : before) {
+        qsizetype best = -1;
+        double most = 0.0;
+        // The first new segment that ends after the old one starts, onwards.
+        auto it = std::upper_bound(after.cbegin(), after.cend(), old.start,
+                                   [](double t, const Segment& s) { return t < s.end(); });
+        for (; it != after.cend() && it->start < old.end(); ++it) {
+            const double overlap = std::min(it->end(), old.end()) - std::max(it->start, old.start);
+            if (overlap > most + 1e-9) {
+                most = overlap;
+                best = it - after.cbegin();
+            }
+        }
+        to.append(best);
+    }
+    return to;
 }
 
 } // namespace CuttingEdits

@@ -48,4 +48,9 @@ double allowedStart(const SegmentList& segments, qsizetype index, double seconds
 std::optional<LessonCutting> moveStart(const LessonCutting& cutting, qsizetype index,
                                        double seconds);
 
+// Where each segment of `before` went in `after`: the new segment that
+// overlaps it most (the earlier one on a tie), -1 when none does. A split's
+// segment goes to its longer part, merged segments go to the same one, and a
+// moved boundary leaves each segment where most of it still is.
+QList<qsizetype> carriedTo(const SegmentList& before, const SegmentList& after);
 } // namespace CuttingEdits

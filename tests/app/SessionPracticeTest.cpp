@@ -9,6 +9,7 @@
 #include "app/ViewController.h"
 #include "app/WindowHarness.h"
 #include "audio/AudioManager.h"
+#include "audio/AudioPlayer.h"
 #include "practice/PracticeStore.h"
 #include "transcript/DocumentManager.h"
 #include "views/CheckBar.h"
@@ -139,6 +140,24 @@ TEST_F(SessionPractice, ChecksHintsAndActiveTimeAreKeptBesideTheTranscriptAndSho
     QApplication::setActiveWindow(&h.window());
     EXPECT_EQ(toolTip(0), "Checked 2 times, 1 hint · last 100%, best 100% · 3 s");
     EXPECT_EQ(toolTip(1), "");
+
+    // A change of the cutting leaves each record on its sentence: a split of
+    // segment 0 moves segment 1's to row 2, and the undo brings it back.
+    const std::string first = toolTip(0);
+    h.session().didSelectSegmentAtIndex(1);
+    clock.advance(2);
+    ASSERT_EQ(toolTip(1), "2 s");
+    h.session().didSelectSegmentAtIndex(0);
+    h.engine().pausePlayback();
+    const Segment zero = h.engine().segments()[0];
+    h.engine().audioPlayer()->setCurrentTime(zero.start + zero.duration / 2);
+    h.session().splitSegmentAtPlayHead();
+    EXPECT_EQ(toolTip(0), first);
+    EXPECT_EQ(toolTip(1), "");
+    EXPECT_EQ(toolTip(2), "2 s");
+    h.session().undoCuttingEdit();
+    EXPECT_EQ(toolTip(0), first);
+    EXPECT_EQ(toolTip(1), "2 s");
 
     // Closing the lesson saves the time; the record comes back with it.
     ASSERT_TRUE(h.open(lesson));

@@ -66,6 +66,22 @@ TEST(PracticeRecord, KeepsChecksHintsScoresTimeAndDaysThroughJson)
         EXPECT_EQ(*back, r);
     }
     EXPECT_TRUE(record.toJson().contains("\"checkDates\":[\"2025-12-31\",\"2026-01-03\"]"));
+
+    // A new cutting: each segment's practice goes where the segment went, and
+    // two that went to the same place are added up.
+    PracticeRecord two = record;
+    two.recordCheck(1, 0.95, QDate(2026, 1, 3));
+    two.addTime(1, 2.0);
+    const PracticeRecord merged = two.remapped({0, 0, -1, 1});
+    const SegmentPractice both = merged.segment(0);
+    EXPECT_EQ(both.checks, 4);
+    EXPECT_EQ(both.hints, 1);
+    EXPECT_EQ(both.best, 0.95);
+    EXPECT_EQ(both.last, 0.95);
+    EXPECT_DOUBLE_EQ(both.secondsSpent, 14.25);
+    EXPECT_EQ(both.checkDates, first.checkDates);
+    EXPECT_EQ(merged.segment(1), record.segment(3));
+    EXPECT_EQ(record.remapped({2}).segment(2), first);
 }
 
 TEST(PracticeStore, KeepsTheRecordBesideTheTranscriptAndNeverReplacesOneItCannotRead)

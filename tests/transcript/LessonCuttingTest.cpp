@@ -96,4 +96,13 @@ TEST(LessonCutting, MergeAndMoveStayInsideTheirNeighbours)
     EXPECT_EQ(segmentAt(c.segments, 4.1), 1);
     EXPECT_EQ(segmentAt(c.segments, 10.0), 2);
     EXPECT_EQ(segmentAt(c.segments, 10.5), -1);
+
+    // Where each segment went: merged ones to the same segment, a split one to
+    // its longer part, and back again with the undo.
+    EXPECT_EQ(carriedTo(c.segments, merged->segments), (QList<qsizetype>{0, 1, 1}));
+    const std::optional<LessonCutting> cut = split(c, 2, 7.0);
+    ASSERT_TRUE(cut);
+    EXPECT_EQ(carriedTo(c.segments, cut->segments), (QList<qsizetype>{0, 1, 3}));
+    EXPECT_EQ(carriedTo(cut->segments, c.segments), (QList<qsizetype>{0, 1, 2, 2}));
+    EXPECT_EQ(carriedTo(c.segments, moveStart(c, 2, 5.0)->segments), (QList<qsizetype>{0, 1, 2}));
 }
