@@ -16,12 +16,7 @@ shots="$3"
 source "$(dirname "$0")/desktop_session.sh"
 start_desktop
 
-title="$(basename "${fixture%.*}")"
-"$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
-pids+=($!)
-probe wait-window "$title" > /dev/null || fail "no window titled $title"
-main="$(window_named "$title")" || fail "no visible window titled $title"
-xdotool windowactivate --sync "$main"
+open_lesson "$kelmora" "$fixture"
 until_equal "rows at the start" "5" probe rows
 
 # The learner listens to the first sentence (a fresh sound server also runs

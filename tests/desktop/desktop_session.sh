@@ -2,8 +2,8 @@
 # Sourced by the real-window tests: a private home, a real X server (Xvfb) and
 # a private PulseAudio server with one null sink whose monitor is recorded.
 # Expects the caller to be inside its own D-Bus session already. Defines
-# work, pids, probe, until_equal, fail, start_sound, start_window_manager, screenshot
-# and screenshot_window;
+# work, pids, probe, until_equal, fail, start_sound, start_window_manager, screenshot,
+# screenshot_window and open_lesson;
 # cleans up on exit.
 
 # A test that has not started its own D-Bus session runs again inside one.
@@ -122,6 +122,19 @@ gone() {
     sleep 0.2
   done
   return 1
+}
+
+# open_lesson KELMORA FIXTURE: starts Kelmora on the fixture and waits until
+# its window, titled after the file, is shown and active. Sets title, app
+# (the process) and main (the window).
+open_lesson() {
+  title="$(basename "${2%.*}")"
+  "$1" "$2" > "$work/kelmora.log" 2>&1 &
+  app=$!
+  pids+=($app)
+  probe wait-window "$title" > /dev/null || fail "no window titled $title"
+  main="$(window_named "$title")" || fail "no visible window titled $title"
+  xdotool windowactivate --sync "$main"
 }
 
 # start_desktop: the sound server, the window manager, and Kelmora's

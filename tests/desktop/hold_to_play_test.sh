@@ -17,12 +17,7 @@ start_desktop
 mkdir -p "$XDG_CONFIG_HOME/Kelmora"
 printf '[General]\nkHoldToPlay=true\n' > "$XDG_CONFIG_HOME/Kelmora/Kelmora.ini"
 
-title="$(basename "${fixture%.*}")"
-"$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
-pids+=($!)
-probe wait-window "$title" > /dev/null || fail "no window titled $title"
-main="$(window_named "$title")" || fail "no visible window titled $title"
-xdotool windowactivate --sync "$main"
+open_lesson "$kelmora" "$fixture"
 until_equal "rows at the start" "5" probe rows
 
 # The lesson starts playing on its own (a fresh sound server also runs slow

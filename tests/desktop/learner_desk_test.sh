@@ -22,14 +22,8 @@ shots="$4"
 source "$(dirname "$0")/desktop_session.sh"
 start_desktop
 
-title="$(basename "${fixture%.*}")"
 
-"$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
-app=$!
-pids+=($app)
-probe wait-window "$title" > /dev/null || fail "no window titled $title"
-main="$(window_named "$title")" || fail "no visible window titled $title"
-xdotool windowactivate --sync "$main"
+open_lesson "$kelmora" "$fixture"
 until_equal "row 0 at the start" "" probe focused-text
 
 # Back in a row, the caret is at the end of what is there.

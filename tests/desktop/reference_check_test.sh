@@ -15,7 +15,6 @@ shots="$3"
 source "$(dirname "$0")/desktop_session.sh"
 start_desktop
 
-title="$(basename "${fixture%.*}")"
 
 # The fixture's five sentences, one line each: line i is segment i.
 reference="$work/lesson.txt"
@@ -23,11 +22,7 @@ printf '%s\n' "Good morning, everyone." "Today we will practise listening." \
   "Please write down every sentence you hear." "Take your time, and check your spelling." \
   "See you next week." > "$reference"
 
-"$kelmora" "$fixture" > "$work/kelmora.log" 2>&1 &
-pids+=($!)
-probe wait-window "$title" > /dev/null || fail "no window titled $title"
-main="$(window_named "$title")" || fail "no visible window titled $title"
-xdotool windowactivate --sync "$main"
+open_lesson "$kelmora" "$fixture"
 until_equal "row 0 at the start" "" probe focused-text
 
 # Alt+F, A: File → Attach Reference Text…, a file panel.

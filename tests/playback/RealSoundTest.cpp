@@ -51,6 +51,31 @@ protected:
         return index + 1 < s.size() ? s[index + 1].start - s[index].start : s[index].duration;
     }
 
+    // Plays a segment `times` times in a row, as the session replays it from
+    // the completion handler, and records up to `seconds` of it.
+    Take recordRepetitions(qint64 index, int times, double seconds)
+    {
+        int plays = 0;
+        bool over = false;
+        engine->setPlaybackCompletionHandler([&] {
+            engine->stopPlayback();
+            if (++plays < times)
+                engine->playSegmentAtIndex(index);
+            else
+                over = true;
+        });
+        Take take = record(
+            *pulse, *engine->audioPlayer(), seconds,
+            [&] {
+                engine->setCurrentSegmentIndex(-1);
+                engine->playSegmentAtIndex(index);
+            },
+            [&] { return over; });
+        // The handler holds this call's locals.
+        engine->setPlaybackCompletionHandler({});
+        return take;
+    }
+
     std::vector<float> reference(double start, double length, float rate) const
     {
         return playedSpan(path, decoded, start, length, rate);
@@ -139,22 +164,7 @@ TEST_F(RealSound, RepetitionsRestartAtTheFirstSampleWithShortGaps)
     std::vector<Sound> runs;
     Take take;
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
-        int plays = 0;
-        bool over = false;
-        engine->setPlaybackCompletionHandler([&] {
-            engine->stopPlayback();
-            if (++plays < 3)
-                engine->playSegmentAtIndex(index);
-            else
-                over = true;
-        });
-        take = record(
-            *pulse, *engine->audioPlayer(), 3 * length,
-            [&] {
-                engine->setCurrentSegmentIndex(-1);
-                engine->playSegmentAtIndex(index);
-            },
-            [&] { return over; });
+        take = recordRepetitions(index, 3, 3 * length);
         if (!take.error.isEmpty())
             break;
         runs = soundRuns(take.capture);
@@ -222,22 +232,7 @@ TEST_F(RealSound, RepetitionsAreSeparatedByTheGapAndTheFirstIsSlower)
     // How far the take is from what was asked: the worst burst or gap.
     double worst = 0;
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
-        int plays = 0;
-        bool over = false;
-        engine->setPlaybackCompletionHandler([&] {
-            engine->stopPlayback();
-            if (++plays < 3)
-                engine->playSegmentAtIndex(index);
-            else
-                over = true;
-        });
-        take = record(
-            *pulse, *engine->audioPlayer(), length / 0.75 + 2 * length + 3 * gap,
-            [&] {
-                engine->setCurrentSegmentIndex(-1);
-                engine->playSegmentAtIndex(index);
-            },
-            [&] { return over; });
+        take = recordRepetitions(index, 3, length / 0.75 + 2 * length + 3 * gap);
         if (!take.error.isEmpty())
             break;
         runs = soundRuns(take.capture);
