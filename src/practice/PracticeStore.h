@@ -2,6 +2,7 @@
 #pragma once
 
 #include "practice/PracticeRecord.h"
+#include "transcript/LessonFile.h"
 
 #include <QString>
 #include <optional>
@@ -45,8 +46,5 @@ public:
     bool remove(const QString& identity, QString* error = nullptr) const;
 
 private:
-    // The name relative to the documents folder; null for a refused identity.
-    static QString nameForIdentity(const QString& identity);
-
-    const DocumentManager& m_documents;
+    LessonFile m_file;
 };

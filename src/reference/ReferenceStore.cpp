@@ -4,88 +4,50 @@
 #include "common/Log.h"
 #include "transcript/DocumentManager.h"
 
-#include <QDebug>
-
-namespace {
-
-bool fail(QString* error, const QString& reason)
+ReferenceStore::ReferenceStore(const DocumentManager& documents)
+    : m_file(documents, Extension, QStringLiteral("the reference text"), lcReference)
 {
-    if (error)
-        *error = reason;
-    qCInfo(lcReference).noquote() << reason;
-    return false;
-}
-
-} // namespace
-
-ReferenceStore::ReferenceStore(const DocumentManager& documents) : m_documents(documents) {}
-
-QString ReferenceStore::nameForIdentity(const QString& identity)
-{
-    return DocumentManager::lessonFileName(identity, Extension);
 }
 
 QString ReferenceStore::pathForIdentity(const QString& identity) const
 {
-    const QString name = nameForIdentity(identity);
-    return name.isNull() ? QString() : m_documents.pathForFilename(name);
+    return m_file.pathForIdentity(identity);
 }
 
 bool ReferenceStore::contains(const QString& identity) const
 {
-    const QString name = nameForIdentity(identity);
-    return !name.isNull() && m_documents.fileExistsWithName(name);
+    return m_file.contains(identity);
 }
 
 bool ReferenceStore::save(const QString& identity, const ReferenceText& reference,
                           QString* error) const
 {
-    const QString name = nameForIdentity(identity);
-    if (name.isNull())
-        return fail(error, QStringLiteral("Not a lesson identity: \"%1\"").arg(identity));
+    const std::optional<QString> name = m_file.nameFor(identity, error);
+    if (!name)
+        return false;
     // The folder is made at start-up, but may have been removed since.
-    m_documents.createDirectory(DocumentManager::TranscriptionsFolder);
+    m_file.documents().createDirectory(DocumentManager::TranscriptionsFolder);
     DocumentError saveError;
-    if (!m_documents.saveData(reference.toJson(), name, &saveError))
-        return fail(error, QStringLiteral("Error writing the reference text: %1")
-                               .arg(saveError.localizedDescription));
+    if (!m_file.documents().saveData(reference.toJson(), *name, &saveError))
+        return m_file.fail(error, QStringLiteral("Error writing the reference text: %1")
+                                      .arg(saveError.localizedDescription));
     return true;
 }
 
 std::optional<ReferenceText> ReferenceStore::load(const QString& identity, QString* error) const
 {
-    if (error)
-        error->clear();
-    const QString name = nameForIdentity(identity);
-    if (name.isNull()) {
-        fail(error, QStringLiteral("Not a lesson identity: \"%1\"").arg(identity));
+    const std::optional<QByteArray> bytes = m_file.read(identity, 0, error);
+    if (!bytes)
         return std::nullopt;
-    }
-    if (!m_documents.fileExistsWithName(name))
-        return std::nullopt;
-    DocumentError loadError;
-    const std::optional<QByteArray> bytes = m_documents.loadDataWithName(name, &loadError);
-    if (!bytes) {
-        fail(error, QStringLiteral("Error reading the reference text: %1")
-                        .arg(loadError.localizedDescription));
-        return std::nullopt;
-    }
     QString reason;
     std::optional<ReferenceText> reference = ReferenceText::fromJson(*bytes, &reason);
     if (!reference)
-        fail(error, QStringLiteral("Error reading the reference text %1: %2")
-                        .arg(m_documents.pathForFilename(name), reason));
+        m_file.fail(error, QStringLiteral("Error reading the reference text %1: %2")
+                               .arg(pathForIdentity(identity), reason));
     return reference;
 }
 
 bool ReferenceStore::remove(const QString& identity, QString* error) const
 {
-    const QString name = nameForIdentity(identity);
-    if (name.isNull())
-        return fail(error, QStringLiteral("Not a lesson identity: \"%1\"").arg(identity));
-    DocumentError removeError;
-    if (!m_documents.deleteFileWithName(name, &removeError))
-        return fail(error, QStringLiteral("Error removing the reference text: %1")
-                               .arg(removeError.localizedDescription));
-    return true;
+    return m_file.remove(identity, error);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "reference/ReferenceText.h"
+#include "transcript/LessonFile.h"
 
 #include <QString>
 #include <optional>
@@ -38,8 +39,5 @@ public:
     bool remove(const QString& identity, QString* error = nullptr) const;
 
 private:
-    // The name relative to the documents folder; null for a refused identity.
-    static QString nameForIdentity(const QString& identity);
-
-    const DocumentManager& m_documents;
+    LessonFile m_file;
 };
