@@ -86,7 +86,7 @@ void ViewController::togglePlayPause()
     if (isProcessing() || m_engine.numberOfSegments() == 0)
         return;
     if (m_engine.isPlaying())
-        m_engine.pausePlayback();
+        m_engine.pausePlayback(AudioManager::PauseSound::CutOff);
     else
         m_engine.resumePlayback();
     updateStatusBar();
@@ -102,7 +102,7 @@ void ViewController::setPlayHeld(bool held)
     if (held && !m_engine.isPlaying())
         m_engine.resumePlayback();
     else if (!held)
-        m_engine.pausePlayback();
+        m_engine.pausePlayback(AudioManager::PauseSound::CutOff);
     updateStatusBar();
 }
 

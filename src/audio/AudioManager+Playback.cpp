@@ -246,10 +246,12 @@ void AudioManager::stop()
     postStatus(Notifications::AudioPlayStop, 0);
 }
 
-void AudioManager::pausePlayback()
+void AudioManager::pausePlayback(PauseSound sound)
 {
     const bool gap = isInRepeatGap() || m_gapPaused;
-    if (m_audioPlayer)
+    if (m_audioPlayer && sound == PauseSound::CutOff)
+        m_audioPlayer->pauseNow();
+    else if (m_audioPlayer)
         m_audioPlayer->pause();
     cancelPlayTimer();
     m_gapPaused = gap;

@@ -149,7 +149,15 @@ public:
     void play();
     void pause();
     void stop();
-    void pausePlayback();
+    // How a pause ends the sound: with what the device still holds played
+    // out (a pause that follows the sound, such as the one just into the next
+    // segment), or cut off at once (the learner's own pause).
+    enum class PauseSound
+    {
+        PlayOut,
+        CutOff
+    };
+    void pausePlayback(PauseSound sound = PauseSound::PlayOut);
     void resumePlayback();
     void stopPlayback();
     bool isPlaying() const;

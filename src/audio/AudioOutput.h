@@ -37,6 +37,9 @@ public:
     // How many of the frames taken from the source since start() (sound and
     // silence alike) have been heard by now, fractional. Any thread.
     virtual double framesHeard() const = 0;
+    // Drops what the device was given and has not played yet, so that a pause
+    // is heard at once; the frames dropped count as heard from then on.
+    virtual void discardPending() {}
     // True when nothing is actually heard (no device).
     virtual bool isSilent() const = 0;
     virtual QString description() const = 0;

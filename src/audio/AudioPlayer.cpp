@@ -111,6 +111,20 @@ void AudioPlayer::pause()
     m_producer->setPlaying(false);
 }
 
+void AudioPlayer::pauseNow()
+{
+    const bool wasPlaying = m_playing;
+    pause();
+    if (!wasPlaying || !m_prepared)
+        return;
+    m_output->discardPending();
+    // Without a span, play() goes on from what the ring holds next, which is
+    // past the sound just dropped; a move to the ear's place brings it back.
+    // With one, play() makes that move itself.
+    if (m_spanEnd < 0.0)
+        setCurrentTime(m_floor);
+}
+
 void AudioPlayer::stop()
 {
     pause();

@@ -42,6 +42,10 @@ public:
     bool prepareToPlay();
     bool play();
     void pause();
+    // As pause(), and what the device still holds is dropped, so that the
+    // sound stops now rather than when the device has played it out. The
+    // next play() starts from what was heard last.
+    void pauseNow();
     // As pause(); the position is kept.
     void stop();
     bool isPlaying() const { return m_playing; }

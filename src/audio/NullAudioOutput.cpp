@@ -22,13 +22,20 @@ QString NullAudioOutput::description() const
 double NullAudioOutput::framesHeard() const
 {
     const double pulled = double(m_pulled.load(std::memory_order_acquire));
-    return std::max(pulled - m_latency * m_format.sampleRate, 0.0);
+    const double discarded = double(m_discardedTo.load(std::memory_order_acquire));
+    return std::max({pulled - m_latency * m_format.sampleRate, std::min(discarded, pulled), 0.0});
+}
+
+void NullAudioOutput::discardPending()
+{
+    m_discardedTo.store(m_pulled.load(std::memory_order_acquire), std::memory_order_release);
 }
 
 bool NullAudioOutput::start(const OutputFormat& format, AudioRenderSource* source)
 {
     stop();
     m_pulled = 0;
+    m_discardedTo = 0;
     m_format = format;
     m_source = source;
     m_started = true;

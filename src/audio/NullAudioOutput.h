@@ -29,6 +29,8 @@ public:
     void stop() override;
     // What it has pulled, less its latency.
     double framesHeard() const override;
+    // Its latency is skipped: what it pulled counts as heard.
+    void discardPending() override;
     bool isSilent() const override { return true; }
     QString description() const override;
     QString errorString() const override { return {}; }
@@ -50,5 +52,6 @@ private:
     std::atomic<bool> m_started{false};
     std::atomic<bool> m_quit{false};
     std::atomic<qint64> m_pulled{0};
+    std::atomic<qint64> m_discardedTo{0}; // heard up to here at least
     std::thread m_thread;
 };

@@ -119,6 +119,29 @@ void QtAudioOutput::stop()
         m_host, [this] { closeOnThread(); }, Qt::BlockingQueuedConnection);
 }
 
+void QtAudioOutput::discardPending()
+{
+    QMetaObject::invokeMethod(
+        m_host, [this] { discardOnThread(); }, Qt::BlockingQueuedConnection);
+}
+
+void QtAudioOutput::discardOnThread()
+{
+    if (!m_sink)
+        return;
+    // QAudioSink cannot flush, but stopping it disconnects its stream, and the
+    // server drops whatever that stream still held. The same sink then opens
+    // a new stream at once (the server is already running, so it takes one
+    // round trip), and the count of what was taken goes on across the two.
+    m_sink->stop();
+    const qint64 taken = m_taken.load(std::memory_order_acquire);
+    m_streamBase = taken;
+    m_origin.store(steadySeconds() - double(taken) / m_sampleRate, std::memory_order_release);
+    m_sink->start(m_device);
+    if (m_sink->error() != QAudio::NoError || m_sink->state() == QAudio::StoppedState)
+        qCInfo(lcAudio, "Audio output error: %s", qPrintable(describeError(m_sink->error())));
+}
+
 void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* source, bool* ok)
 {
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
@@ -146,6 +169,7 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
     });
     m_taken.store(0, std::memory_order_relaxed);
     m_origin.store(-1.0, std::memory_order_relaxed);
+    m_streamBase = 0;
     m_sampleRate = format.sampleRate;
     m_device = new RenderDevice(source, format.channels, &m_taken, m_host);
     m_device->open(QIODevice::ReadOnly);
@@ -169,8 +193,8 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
         if (!m_sink)
             return;
         const double taken = double(m_taken.load(std::memory_order_acquire));
-        const double played =
-            std::min(double(m_sink->processedUSecs()) * m_sampleRate / 1e6, taken);
+        const double played = std::min(
+            double(m_streamBase) + double(m_sink->processedUSecs()) * m_sampleRate / 1e6, taken);
         m_origin.store(steadySeconds() - played / m_sampleRate, std::memory_order_release);
     });
     m_playedTimer->start(20);

@@ -31,6 +31,8 @@ public:
     bool start(const OutputFormat& format, AudioRenderSource* source) override;
     void stop() override;
     double framesHeard() const override;
+    // A new stream in place of the old one: the server drops what it held.
+    void discardPending() override;
     bool isSilent() const override { return false; }
     QString description() const override { return m_description; }
     QString errorString() const override { return m_error; }
@@ -38,6 +40,7 @@ public:
 private:
     void openOnThread(const OutputFormat& format, AudioRenderSource* source, bool* ok);
     void closeOnThread();
+    void discardOnThread();
 
     QThread m_thread;
     QObject* m_host = nullptr; // lives on m_thread; owns the sink, device and timer
@@ -51,6 +54,7 @@ private:
     std::atomic<qint64> m_taken{0};
     std::atomic<double> m_origin{-1.0};
     int m_sampleRate = 0;
+    qint64 m_streamBase = 0; // frames taken before the present stream began (sink thread)
     QString m_description;
     QString m_error;
 };

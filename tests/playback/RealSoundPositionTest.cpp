@@ -151,4 +151,99 @@ std::string rateName(const ::testing::TestParamInfo<float>& param)
 
 INSTANTIATE_TEST_SUITE_P(Rates, RealSoundPosition, ::testing::Values(1.0f, 0.5f, 3.0f), rateName);
 
+// The learner's pause through the real sink: silent at once, and the sound
+// that follows the next play() starts where the ear left off, with nothing
+// skipped or said twice.
+struct PauseTake
+{
+    QString error;
+    bool disturbed = false;
+    double tail = 0;    // seconds of sound after the pause was asked
+    double onset = 0;   // seconds from play() to the first sound
+    double coefficient = 0, offset = 0; // the resumed sound against the source
+};
+
+PauseTake pauseAndResume(PulseServer& pulse, const QString& path, const std::vector<float>& decoded)
+{
+    PauseTake result;
+    QString error;
+    auto player = AudioPlayer::create(path, nullptr, &error);
+    if (!player || !player->prepareToPlay() || player->output()->isSilent()) {
+        result.error = QStringLiteral("the player did not find the sink: ") + error;
+        return result;
+    }
+    std::unique_ptr<MonitorClock> clock = MonitorClock::start(&result.error);
+    if (!clock)
+        return result;
+    const int underruns = pulse.playbackUnderruns();
+    runEventsFor(400);
+    player->setCurrentTime(1.0);
+    player->play();
+    runEventsFor(1200);
+    const double pausedSample = clock->heardNow();
+    const double pausedAt = player->currentTime();
+    player->pauseNow();
+    runEventsFor(600);
+    const double resumedSample = clock->heardNow();
+    player->play();
+    runEventsFor(1200);
+    player->pause();
+    runEventsFor(500);
+    const std::vector<float> capture = clock->stop();
+    result.disturbed = player->shortReads() > 0 || pulse.playbackUnderruns() > underruns;
+    if (pausedSample < 0 || resumedSample < 0) {
+        result.error = QStringLiteral("the server did not say what it played");
+        return result;
+    }
+
+    const auto from = size_t(pausedSample), until = std::min(size_t(resumedSample), capture.size());
+    size_t last = from;
+    for (size_t i = from; i < until; ++i)
+        if (capture[i] != 0.0f)
+            last = i;
+    result.tail = double(last - from) / kCaptureRate;
+    size_t first = until;
+    while (first < capture.size() && capture[first] == 0.0f)
+        ++first;
+    result.onset = double(first - until) / kCaptureRate;
+
+    // The second of sound after the resume, found in the source from the
+    // paused position on: it must line up with its very start.
+    const std::vector<float> resumed(capture.begin() + qsizetype(std::min(first, capture.size())),
+                                     capture.end());
+    const std::vector<float> ref = playedSpan(path, decoded, pausedAt, 0.8, 1.0f);
+    const Match match = locate(resumed, ref);
+    result.coefficient = match.coefficient;
+    result.offset = double(match.lag) / kCaptureRate;
+    return result;
+}
+
+class RealSoundPause : public WithServer<>
+{
+};
+
+TEST_F(RealSoundPause, IsSilentAtOnceAndPlayGoesOnFromWhatWasHeard)
+{
+    const QString path = fixture("speech_48k_floor.wav");
+    const std::vector<float> decoded = PlayerTest::straightDecode(path);
+    PauseTake take;
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+        take = pauseAndResume(*pulse, path, decoded);
+        std::printf("take %d: sound %.1f ms after the pause, resumed after %.1f ms, "
+                    "r = %.4f at %+.1f ms%s %s\n",
+                    attempt, take.tail * 1000, take.onset * 1000, take.coefficient,
+                    take.offset * 1000, take.disturbed ? ", the sound ran dry" : "",
+                    qPrintable(take.error));
+        if (!take.error.isEmpty() || !take.disturbed)
+            break;
+    }
+    ASSERT_TRUE(take.error.isEmpty()) << take.error.toStdString();
+    // What the stream held is dropped; what still sounds after the pause is
+    // what the sink had mixed already, and the null sink, unlike a sound
+    // card, cannot take that back (it mixes about 100 ms ahead here).
+    EXPECT_LE(take.tail, 0.15);
+    EXPECT_GE(take.coefficient, 0.98) << "the resumed sound is not the source from the pause on";
+    EXPECT_NEAR(take.offset, 0.0, kHeardTolerance) << "sound skipped or repeated at the resume";
+}
+
 } // namespace
