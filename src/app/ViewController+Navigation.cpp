@@ -96,13 +96,36 @@ void ViewController::setPlayHeld(bool held)
 {
     if (isProcessing() || m_engine.numberOfSegments() == 0)
         return;
+    // X repeats a held key as a release and a press with one time stamp; Qt
+    // sees the pair only when both have arrived, and on a busy machine the
+    // press can come late, so the release looks real. A release takes effect
+    // only once it has settled: a press that follows at once keeps playing.
+    constexpr double kReleaseSettles = 0.03;
+    const bool settling = m_letGoTimer && m_letGoTimer->isValid();
+    if (settling)
+        m_letGoTimer->invalidate();
+    if (held && settling)
+        return;
+    if (!held) {
+        // The timer dies with this controller.
+        m_letGoTimer = m_engine.clock().scheduledTimer(kReleaseSettles, false,
+                                                       [this] { letGoOfPlay(); });
+        return;
+    }
+    m_pedalReleased = false;
+    if (!m_engine.isPlaying())
+        m_engine.resumePlayback();
+    updateStatusBar();
+}
+
+void ViewController::letGoOfPlay()
+{
+    if (isProcessing() || m_engine.numberOfSegments() == 0)
+        return;
     // Let go between two repetitions, the pedal must stop the loop as well
     // as the sound: a repetition already on its way is not started.
-    m_pedalReleased = !held;
-    if (held && !m_engine.isPlaying())
-        m_engine.resumePlayback();
-    else if (!held)
-        m_engine.pausePlayback(AudioManager::PauseSound::CutOff);
+    m_pedalReleased = true;
+    m_engine.pausePlayback(AudioManager::PauseSound::CutOff);
     updateStatusBar();
 }
 

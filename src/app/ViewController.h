@@ -339,6 +339,8 @@ private:
     void refreshCheckBarLook();
     // The checked rows and the bar again, under the options now stored.
     void checkOptionsChanged();
+    // A hold-to-play release that has settled: the sound and the loop stop.
+    void letGoOfPlay();
 
     AudioManager& m_engine;
     NotificationCenter& m_center;
@@ -372,6 +374,7 @@ private:
     // One-shot timers on the engine's clock, so that tests can run them.
     std::shared_ptr<Timer> m_pauseTimer;
     std::shared_ptr<Timer> m_playbackTimer; // the repeat switch's end of segment
+    std::shared_ptr<Timer> m_letGoTimer;    // a hold-to-play release settling
 
     // Loads run one after another on their own thread; the engine is not
     // touched from here while one runs.
