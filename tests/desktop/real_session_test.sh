@@ -87,6 +87,62 @@ screenshot real-session
 xdotool key ctrl+r
 until_status "| Play | Repeat"
 
+# The play speed, changed from the preferences while the segment repeats:
+# Down to 0.3×, Up to 3.0×, Down to 1.0×, one step a key press, each applied
+# at once. The lesson's noise floor never falls to digital silence, so a run
+# of near-zero samples in the recording means the sound stopped, whether in
+# the middle of the sound or between one repetition and the next.
+xdotool key --clearmodifiers ctrl+comma
+probe wait-window Preferences > /dev/null || fail "Ctrl+, opened no preferences window"
+at="$(probe centre "Play speed")" || fail "no play speed field"
+# shellcheck disable=SC2086
+xdotool mousemove --sync $at click 1
+from=$(stat -c %s "$work/capture.raw")
+press() { for _ in $(seq "$2"); do xdotool key "$1"; sleep 0.1; done; }
+press Down 7
+until_equal "play speed" "0.3×" probe text "Play speed"
+press Up 27
+until_equal "play speed" "3.0×" probe text "Play speed"
+until_status "| Play | Repeat"
+screenshot real-session-rate
+press Down 20
+until_equal "play speed" "1.0×" probe text "Play speed"
+to=$(stat -c %s "$work/capture.raw")
+second=$((48000 * 2))
+for _ in $(seq 50); do [ "$(stat -c %s "$work/capture.raw")" -ge $((to + second)) ] && break; sleep 0.1; done
+python3 - "$work/capture.raw" "$from" "$to" "$second" <<'PY' || fail "the sound stopped while the speed changed"
+import array, math, sys
+path, start, end, after = sys.argv[1], int(sys.argv[2]) // 2 * 2, int(sys.argv[3]), int(sys.argv[4])
+with open(path, "rb") as f:
+    f.seek(start)
+    samples = array.array("h", f.read())
+rate = 48000
+def rms(part):
+    return math.sqrt(sum(s * s for s in part) / max(len(part), 1))
+# Every run of digital silence over 5 ms, and what came before it: the floor
+# (a segment's quiet end, so a late repetition) or speech (a cut).
+silences, quiet = [], 0
+for i, s in enumerate(samples):
+    if -4 < s < 4:
+        quiet += 1
+        continue
+    if quiet > rate // 200:
+        before = rms(samples[max(i - quiet - rate // 20, 0):i - quiet])
+        silences.append((quiet, (i - quiet) / rate, "after the floor" if before < 40 else "in speech"))
+    quiet = 0
+silences.append((quiet, len(samples) / rate, "at the end"))
+tail = samples[(end - start) // 2:][:after // 2]
+longest = max(silences)
+print(f"speed changes: {len(samples) / rate:.2f} s recorded; longest silence "
+      f"{longest[0] * 1000 / rate:.1f} ms at {longest[1]:.2f} s {longest[2]}; then "
+      f"{len(tail) / rate:.2f} s at RMS {rms(tail):.0f}; silences over 5 ms: " +
+      ", ".join(f"{q * 1000 / rate:.0f} ms ({where})" for q, _, where in silences if q))
+sys.exit(0 if longest[0] < 0.05 * rate and len(tail) * 2 >= after and rms(tail) > 5 else 1)
+PY
+until_status "| Play | Repeat"
+xdotool key Escape
+xdotool windowfocus --sync "$window"
+
 # Closing with "Save" shows a save panel; both the file named there and the
 # store file then hold the rows.
 picked="$HOME/picked.lrc"
