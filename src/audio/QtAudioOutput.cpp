@@ -130,13 +130,18 @@ void QtAudioOutput::discardOnThread()
     if (!m_sink)
         return;
     // QAudioSink cannot flush, but stopping it disconnects its stream, and the
-    // server drops whatever that stream still held. The same sink then opens
-    // a new stream at once (the server is already running, so it takes one
+    // server drops whatever that stream still held. A new sink then opens a
+    // new stream at once (the server is already running, so it takes one
     // round trip), and the count of what was taken goes on across the two.
+    // Not the same sink started again: Qt 6.4's pulse sink, restarted while
+    // sound flows, soon stops asking for data.
     m_sink->stop();
+    delete m_sink;
+    m_sink = nullptr;
     const qint64 taken = m_taken.load(std::memory_order_acquire);
     m_streamBase = taken;
     m_origin.store(steadySeconds() - double(taken) / m_sampleRate, std::memory_order_release);
+    makeSink();
     m_sink->start(m_device);
     if (m_sink->error() != QAudio::NoError || m_sink->state() == QAudio::StoppedState)
         qCInfo(lcAudio, "Audio output error: %s", qPrintable(describeError(m_sink->error())));
@@ -155,18 +160,9 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
     qformat.setSampleFormat(QAudioFormat::Float);
     m_bytesPerSecond = format.sampleRate * format.channels * int(sizeof(float));
 
-    m_sink = new QAudioSink(device, qformat, m_host);
-    m_sink->setBufferSize(static_cast<qsizetype>(m_bytesPerSecond * kBufferSeconds));
-    QObject::connect(m_sink, &QAudioSink::stateChanged, m_host, [this](QAudio::State) {
-        if (!m_sink || m_sink->error() == QAudio::NoError)
-            return;
-        // The sink runs dry whenever nothing is fed (paused, between
-        // segments): that is no error, and only a debugging rule shows it.
-        if (m_sink->error() == QAudio::UnderrunError)
-            qCDebug(lcAudio, "Audio output idle: %s", qPrintable(describeError(m_sink->error())));
-        else
-            qCInfo(lcAudio, "Audio output error: %s", qPrintable(describeError(m_sink->error())));
-    });
+    m_audioDevice = std::make_unique<QAudioDevice>(device);
+    m_audioFormat = std::make_unique<QAudioFormat>(qformat);
+    makeSink();
     m_taken.store(0, std::memory_order_relaxed);
     m_origin.store(-1.0, std::memory_order_relaxed);
     m_streamBase = 0;
@@ -199,6 +195,23 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
     });
     m_playedTimer->start(20);
     *ok = true;
+}
+
+void QtAudioOutput::makeSink()
+{
+    m_sink = new QAudioSink(*m_audioDevice, *m_audioFormat, m_host);
+    m_sink->setBufferSize(static_cast<qsizetype>(m_bytesPerSecond * kBufferSeconds));
+    QAudioSink* sink = m_sink;
+    QObject::connect(sink, &QAudioSink::stateChanged, m_host, [sink](QAudio::State) {
+        if (sink->error() == QAudio::NoError)
+            return;
+        // The sink runs dry whenever nothing is fed (paused, between
+        // segments): that is no error, and only a debugging rule shows it.
+        if (sink->error() == QAudio::UnderrunError)
+            qCDebug(lcAudio, "Audio output idle: %s", qPrintable(describeError(sink->error())));
+        else
+            qCInfo(lcAudio, "Audio output error: %s", qPrintable(describeError(sink->error())));
+    });
 }
 
 void QtAudioOutput::closeOnThread()

@@ -7,6 +7,8 @@
 #include <atomic>
 #include <memory>
 
+class QAudioDevice;
+class QAudioFormat;
 class QAudioSink;
 class QIODevice;
 class QTimer;
@@ -41,10 +43,13 @@ private:
     void openOnThread(const OutputFormat& format, AudioRenderSource* source, bool* ok);
     void closeOnThread();
     void discardOnThread();
+    void makeSink();
 
     QThread m_thread;
     QObject* m_host = nullptr; // lives on m_thread; owns the sink, device and timer
     QAudioSink* m_sink = nullptr;
+    std::unique_ptr<QAudioDevice> m_audioDevice;
+    std::unique_ptr<QAudioFormat> m_audioFormat;
     QIODevice* m_device = nullptr;
     QTimer* m_playedTimer = nullptr;
     int m_bytesPerSecond = 0;
