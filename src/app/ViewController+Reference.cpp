@@ -190,7 +190,7 @@ void ViewController::loadLessonReference()
 
 void ViewController::setReference(std::optional<ReferenceText> reference)
 {
-    const bool had = m_reference.has_value();
+    const bool changed = m_reference != reference;
     m_reference = std::move(reference);
     m_referenceBySegment =
         m_reference ? ReferenceMapping::map(*m_reference, m_engine.segments()) : QStringList();
@@ -205,6 +205,6 @@ void ViewController::setReference(std::optional<ReferenceText> reference)
                                                         : m_currentSegmentIndex);
         refreshDueCount();
     }
-    if (had != m_reference.has_value())
+    if (changed)
         emit referenceTextChanged(m_reference.has_value());
 }

@@ -959,5 +959,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>อ่านประวัติการฝึกไม่ได้ และจะไม่เขียนทับ: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>ตัดช่วงตามประโยค(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>ตัดตามประโยค</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>จำนวนช่วงตอนนี้: %d</translation>
+    </message>
 </context>
 </TS>

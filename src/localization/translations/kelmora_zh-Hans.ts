@@ -959,5 +959,17 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>无法读取练习记录，不会覆盖它：%@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>按句子切分分段(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>按句子切分</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>现在的分段数：%d</translation>
+    </message>
 </context>
 </TS>
