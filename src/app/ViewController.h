@@ -270,6 +270,9 @@ private:
     // reference is read again and laid over the segments.
     void loadLessonReference();
     void setReference(std::optional<ReferenceText> reference);
+    // The segment starts, but the first, within a frame of the start of a
+    // sentence the reference placed with doubt.
+    QList<double> uncertainSentenceStarts() const;
     void referenceFileRead(const QString& path, const QString& audioPath,
                            const std::optional<ReferenceText>& reference,
                            const ReferenceReadError& error);

@@ -316,4 +316,10 @@ TEST(SessionCutting, CutAtSentencesCarriesRowsByTheirMiddleAndMarksUncertainStar
     EXPECT_TRUE(strip->uncertainStarts().isEmpty());
     session.undoCuttingEdit();
     EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
+
+    // Opened again, the uncertain start unmoved is marked again.
+    h.finishAutoSaves();
+    ASSERT_TRUE(h.open(lesson));
+    EXPECT_EQ(strip->segments().size(), 3);
+    EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
 }
