@@ -120,6 +120,8 @@ std::optional<ReferenceText> ReferenceText::fromJson(const QByteArray& json, QSt
         unit.uncertain = uncertain.toBool(false);
         if (unit.start.has_value() != unit.end.has_value())
             return fail(error, where + QStringLiteral("a start without an end or the reverse"));
+        if (unit.uncertain && !unit.isTimed())
+            return fail(error, where + QStringLiteral("an uncertain start that is not there"));
         if (unit.isTimed() && *unit.start < 0.0)
             return fail(error, where + QStringLiteral("a negative time"));
         if (unit.isTimed() && *unit.end < *unit.start)

@@ -54,8 +54,8 @@ public:
 
     // UTF-8 JSON: {"version": 1, "source": name, "units": [{"text", "start",
     // "end"}]}, the times left out for untimed units. "language" at the top
-    // and "uncertain": true on a unit are written only when set, so that a
-    // reference that was not aligned reads the same in older versions.
+    // and "uncertain": true on a unit are written only when set: a reference
+    // that was not aligned is written as it was before they existed.
     QByteArray toJson() const;
     // Nothing, and `error` saying what is wrong, for anything but a whole
     // reference of this format version.

@@ -28,10 +28,10 @@ QColor markerBlue()
     return QColor(89, 180, 240);
 }
 
-// A start the learner should look at: the orange of the Okabe-Ito palette,
-// which the marker blue's own palette keeps apart from it for every common
-// kind of colour blindness, about 4.6:1 against the waveform's grey. Its line
-// is solid and twice as wide, so it differs in shape as well as in colour.
+// A start the learner should look at. The marker blue is nearly the sky blue
+// of the Okabe-Ito palette, whose orange stays apart from it for every common
+// kind of colour blindness; both stand 4.5:1 against the waveform's grey. The
+// line is solid and twice as wide, so it differs in shape as well as colour.
 QColor uncertainAmber()
 {
     return QColor(230, 159, 0);

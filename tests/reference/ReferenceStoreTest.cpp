@@ -91,6 +91,8 @@ TEST(ReferenceText, MalformedJsonIsAnErrorNotACrash)
         {"{\"version\": 1, \"source\": \"a\", \"units\": [{\"text\": \"x\", \"start\": 1, "
          "\"end\": 2, \"uncertain\": \"yes\"}]}",
          "unit 1: an uncertain mark that is not true or false"},
+        {"{\"version\": 1, \"source\": \"a\", \"units\": [{\"text\": \"x\", \"uncertain\": true}]}",
+         "unit 1: an uncertain start that is not there"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.json.toStdString());
