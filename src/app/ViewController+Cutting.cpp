@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QStatusBar>
 #include <QUndoStack>
+#include <algorithm>
 
 namespace {
 // How far the keyboard moves a start: five analysis frames.
@@ -250,10 +251,22 @@ void ViewController::showUncertainStarts()
 {
     const SegmentList& segments = m_engine.segments();
     QSet<qint64> indices;
+    QList<qint64> numbers;
     for (double start : std::as_const(m_uncertainStarts)) {
         const qsizetype index = CuttingEdits::segmentAt(segments, start);
-        if (index > 0 && segments[index].start == start)
+        if (index > 0 && segments[index].start == start) {
             indices.insert(index);
+            numbers.append(index + 1);
+        }
     }
     m_waveformView->setUncertainStarts(indices);
+    // What the colour says, for a screen reader.
+    std::sort(numbers.begin(), numbers.end());
+    QStringList list;
+    for (qint64 number : std::as_const(numbers))
+        list.append(QString::number(number));
+    m_waveformView->setAccessibleDescription(
+        list.isEmpty() ? QString()
+                       : stringWithFormat(LocalizedString(Texts::UncertainStarts),
+                                          {list.join(QStringLiteral(", "))}));
 }

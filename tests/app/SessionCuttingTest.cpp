@@ -296,6 +296,7 @@ TEST(SessionCutting, CutAtSentencesCarriesRowsByTheirMiddleAndMarksUncertainStar
     EXPECT_EQ(session.transcriptionTableView()->model()->rowCount(), 3);
     EXPECT_EQ(strip->segments().size(), 3);
     EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
+    EXPECT_EQ(strip->accessibleDescription(), "Uncertain segment starts: 2");
     EXPECT_EQ(session.statusBar()->currentMessage(), "Segments now: 3");
     EXPECT_EQ(session.cuttingEdits()->count(), 1);
     h.finishAutoSaves();
@@ -304,6 +305,7 @@ TEST(SessionCutting, CutAtSentencesCarriesRowsByTheirMiddleAndMarksUncertainStar
     session.undoCuttingEdit();
     expectSame(cuttingOf(h), before, "cut undone");
     EXPECT_TRUE(strip->uncertainStarts().isEmpty());
+    EXPECT_TRUE(strip->accessibleDescription().isEmpty());
     session.redoCuttingEdit();
     expectSame(cuttingOf(h), cut, "cut redone");
     EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});

@@ -971,5 +971,9 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Segments now: %d</source>
         <translation>Abschnitte jetzt: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Unsichere Abschnittsanfänge: %@</translation>
+    </message>
 </context>
 </TS>

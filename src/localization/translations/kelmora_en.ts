@@ -971,5 +971,9 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Segments now: %d</source>
         <translation>Segments now: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Uncertain segment starts: %@</translation>
+    </message>
 </context>
 </TS>

@@ -971,5 +971,9 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Segments now: %d</source>
         <translation>Segmentos ahora: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Inicios de segmento dudosos: %@</translation>
+    </message>
 </context>
 </TS>

@@ -971,5 +971,9 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Segments now: %d</source>
         <translation>Segments maintenant : %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Débuts de segment incertains : %@</translation>
+    </message>
 </context>
 </TS>

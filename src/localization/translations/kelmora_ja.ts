@@ -971,5 +971,9 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Segments now: %d</source>
         <translation>現在のセグメント数: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>不確かなセグメントの開始: %@</translation>
+    </message>
 </context>
 </TS>

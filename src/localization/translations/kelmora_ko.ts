@@ -971,5 +971,9 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Segments now: %d</source>
         <translation>현재 구간 수: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>불확실한 구간 시작: %@</translation>
+    </message>
 </context>
 </TS>

@@ -971,5 +971,9 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Segments now: %d</source>
         <translation>Сегментов теперь: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Неуверенные начала сегментов: %@</translation>
+    </message>
 </context>
 </TS>

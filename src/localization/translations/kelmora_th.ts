@@ -971,5 +971,9 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Segments now: %d</source>
         <translation>จำนวนช่วงตอนนี้: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>จุดเริ่มช่วงที่ไม่แน่นอน: %@</translation>
+    </message>
 </context>
 </TS>

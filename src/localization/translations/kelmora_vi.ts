@@ -971,5 +971,9 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Segments now: %d</source>
         <translation>Số đoạn hiện tại: %d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Điểm bắt đầu đoạn chưa chắc chắn: %@</translation>
+    </message>
 </context>
 </TS>

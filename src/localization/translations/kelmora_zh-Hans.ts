@@ -971,5 +971,9 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Segments now: %d</source>
         <translation>现在的分段数：%d</translation>
     </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>不确定的分段起点：%@</translation>
+    </message>
 </context>
 </TS>
