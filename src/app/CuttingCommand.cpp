@@ -17,7 +17,7 @@ bool CuttingCommand::mergeWith(const QUndoCommand* other)
         return false;
     m_after = next->m_after;
     // A start moved back to where it was is no step at all.
-    if (m_after.cutting == m_before.cutting)
+    if (m_after.cutting == m_before.cutting && m_after.uncertainStarts == m_before.uncertainStarts)
         setObsolete(true);
     return true;
 }

@@ -19,6 +19,9 @@ public:
         qint64 current = 0;
         // Where the caret goes in the current row; its end when unset.
         std::optional<qsizetype> caret;
+        // The segment starts, in seconds, that came from a sentence whose
+        // start is uncertain and were not moved since.
+        QList<double> uncertainStarts;
     };
     using Apply = std::function<void(const State&)>;
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Edit menu's commands for the cutting: undo and redo of its edits, split,
-// merge and the keyboard's way of moving a start. The waveform strip's context
-// menu offers split and merge too. The View menu's bound command shows its
-// keys the same way.
+// merge, the keyboard's way of moving a start and the cut at the reference's
+// sentences. The waveform strip's context menu offers split and merge too.
+// The View menu's bound command shows its keys the same way.
 
 #include "app/KeyDownMonitor.h"
 #include "app/MainWindowController.h"
 #include "app/ViewController.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "localization/SentenceCutTexts.h"
 #include "preferences/Keyboard.h"
 #include "preferences/ObjectStorage.h"
 #include "preferences/ShortcutBindings.h"
@@ -64,6 +65,10 @@ void MainWindowController::setupEditMenu(QMenu* edit)
     later->setText(withKeys(LocalizedString(Texts::MenuStartLater), QStringLiteral("Alt+Right")));
     for (QAction* command : {m_splitItem, m_mergeItem, earlier, later})
         needsLesson(command);
+    // Only a reference with times has sentences to cut at; the menu asks as it opens.
+    m_cutAtSentencesItem =
+        item("menuCutAtSentences", [session] { session->cutSegmentsAtSentences(); });
+    m_cutAtSentencesItem->setText(LocalizedString(Texts::MenuCutAtSentences));
     edit->addSeparator();
 
     // A right click in the strip offers what the play head is in.
@@ -75,6 +80,9 @@ void MainWindowController::setupEditMenu(QMenu* edit)
     connect(session->cuttingEdits(), &QUndoStack::indexChanged, this,
             &MainWindowController::updateEditMenu);
     connect(edit, &QMenu::aboutToShow, this, &MainWindowController::updateEditMenu);
+    for (auto changed :
+         {&ViewController::lessonShownChanged, &ViewController::referenceTextChanged})
+        connect(session, changed, this, &MainWindowController::updateEditMenu);
     updateEditMenu();
 }
 
@@ -98,6 +106,7 @@ void MainWindowController::updateEditMenu()
                                   boundKeys(shortcuts, ShortcutAction::SplitSegment)));
     m_mergeItem->setText(withKeys(LocalizedString(Texts::MenuMergeSegments),
                                   boundKeys(shortcuts, ShortcutAction::MergeSegments)));
+    m_cutAtSentencesItem->setEnabled(m_viewController->canCutAtSentences());
 }
 
 void MainWindowController::updateViewMenu()

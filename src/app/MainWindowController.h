@@ -104,6 +104,7 @@ private:
     QAction* m_redoItem = nullptr;
     QAction* m_splitItem = nullptr;
     QAction* m_mergeItem = nullptr;
+    QAction* m_cutAtSentencesItem = nullptr;
     QAction* m_hardSentencesItem = nullptr;
     QList<QAction*> m_lessonCommands;
     QList<QAction*> m_referenceCommands;

@@ -10,12 +10,14 @@
 #include "common/Log.h"
 #include "localization/LocalizedString.h"
 #include "localization/LocalizedTexts.h"
+#include "localization/SentenceCutTexts.h"
 #include "views/TranscriptionTableView.h"
 #include "views/WaveformView.h"
 
 #include <QPointer>
 #include <QStatusBar>
 #include <QUndoStack>
+#include <algorithm>
 
 namespace {
 // How far the keyboard moves a start: five analysis frames.
@@ -35,12 +37,36 @@ LessonCutting ViewController::currentCutting() const
     return LessonCutting{m_engine.segments(), m_table->mutableTranscriptions()};
 }
 
+namespace {
+
+// The starts of `uncertain` that still begin a segment: a start an edit moved
+// or took away was looked at by the learner.
+QList<double> startsStillThere(const QList<double>& uncertain, const SegmentList& segments)
+{
+    QList<double> kept;
+    for (double start : uncertain) {
+        const qsizetype index = CuttingEdits::segmentAt(segments, start);
+        if (index >= 0 && segments[index].start == start)
+            kept.append(start);
+    }
+    return kept;
+}
+
+} // namespace
+
 void ViewController::pushCuttingEdit(const char* name, LessonCutting after, qint64 current,
                                      std::optional<qsizetype> caret, int kind, qint64 movedIndex)
 {
-    CuttingCommand::State before{currentCutting(), m_currentSegmentIndex,
-                                 m_table->editingCaret()};
-    CuttingCommand::State next{std::move(after), current, caret};
+    QList<double> uncertain = startsStillThere(m_uncertainStarts, after.segments);
+    pushCuttingState(name, {std::move(after), current, caret, std::move(uncertain)}, kind,
+                     movedIndex);
+}
+
+void ViewController::pushCuttingState(const char* name, CuttingCommand::State next, int kind,
+                                      qint64 movedIndex)
+{
+    CuttingCommand::State before{currentCutting(), m_currentSegmentIndex, m_table->editingCaret(),
+                                 m_uncertainStarts};
     QPointer<ViewController> self(this);
     const QString lesson = m_currentAudioPath;
     auto apply = [self, lesson](const CuttingCommand::State& state) {
@@ -70,6 +96,8 @@ void ViewController::applyCutting(const CuttingCommand::State& state)
     m_table->replaceTranscriptions(cutting.texts, current, state.caret);
     m_waveformView->updateWithSegments(cutting.segments);
     m_waveformView->setCurrentSegment(current);
+    m_uncertainStarts = state.uncertainStarts;
+    showUncertainStarts();
     setSegmentsShown(cutting.segments.size());
     updateStatusBar();
     // The check's marks and each row's part of the reference follow the segments.
@@ -178,4 +206,67 @@ void ViewController::redoCuttingEdit()
 {
     if (canEditCutting() && m_cuttingEdits->canRedo())
         m_cuttingEdits->redo();
+}
+
+bool ViewController::canCutAtSentences() const
+{
+    return m_segmentsShown > 0 && m_reference && m_reference->isTimed();
+}
+
+void ViewController::cutSegmentsAtSentences()
+{
+    if (!canEditCutting() || !canCutAtSentences())
+        return;
+    const QList<ReferenceUnit>& units = m_reference->units();
+    QList<double> starts;
+    starts.reserve(units.size());
+    for (const ReferenceUnit& unit : units)
+        starts.append(*unit.start);
+    const LessonCutting before = currentCutting();
+    QList<qsizetype> from;
+    std::optional<LessonCutting> after = CuttingEdits::cutAt(before, starts, &from);
+    if (!after)
+        return;
+    // The first segment's start is the recording's, not a sentence's.
+    QList<double> uncertain;
+    for (qsizetype i = 1; i < from.size(); ++i) {
+        if (units[from[i]].uncertain)
+            uncertain.append(after->segments[i].start);
+    }
+    const qsizetype count = after->segments.size();
+    qCInfo(lcApp, "Cut at %lld sentences: %lld segments, %lld starts uncertain",
+           qlonglong(units.size()), qlonglong(count), qlonglong(uncertain.size()));
+    if (*after != before || uncertain != m_uncertainStarts) {
+        // The sentence being listened to stays current.
+        const qint64 current =
+            std::max<qint64>(0, CuttingEdits::segmentAt(after->segments, playHeadPosition()));
+        pushCuttingState(Texts::EditCutAtSentences,
+                         {std::move(*after), current, std::nullopt, std::move(uncertain)});
+    }
+    m_statusBar->showMessage(
+        stringWithFormat(LocalizedString(Texts::SegmentsNow), {QString::number(count)}), 5000);
+}
+
+void ViewController::showUncertainStarts()
+{
+    const SegmentList& segments = m_engine.segments();
+    QSet<qint64> indices;
+    QList<qint64> numbers;
+    for (double start : std::as_const(m_uncertainStarts)) {
+        const qsizetype index = CuttingEdits::segmentAt(segments, start);
+        if (index > 0 && segments[index].start == start) {
+            indices.insert(index);
+            numbers.append(index + 1);
+        }
+    }
+    m_waveformView->setUncertainStarts(indices);
+    // What the colour says, for a screen reader.
+    std::sort(numbers.begin(), numbers.end());
+    QStringList list;
+    for (qint64 number : std::as_const(numbers))
+        list.append(QString::number(number));
+    m_waveformView->setAccessibleDescription(
+        list.isEmpty() ? QString()
+                       : stringWithFormat(LocalizedString(Texts::UncertainStarts),
+                                          {list.join(QStringLiteral(", "))}));
 }

@@ -112,6 +112,7 @@ void ViewController::finishOpening(bool success, const QString& path)
         m_currentAudioPath = loaded;
         // Edits of the cutting shown before belong to it alone.
         m_cuttingEdits->clear();
+        m_uncertainStarts.clear();
         initTranscription();
         offerDictationFoundElsewhere(); // before the rows are shown, which saves them
         openLessonJournal();
@@ -129,6 +130,7 @@ void ViewController::showEngineSegmentsAndPlay()
 {
     setSegmentsShown(m_engine.numberOfSegments());
     m_waveformView->updateWithSegments(m_engine.segments());
+    showUncertainStarts();
     m_waveformView->updateWaveformData(m_engine.waveformData());
     m_waveformView->updateContentWidth();
 

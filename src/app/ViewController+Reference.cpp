@@ -24,6 +24,8 @@
 #include <QPointer>
 #include <QThreadPool>
 #include <QTimer>
+#include <QUndoStack>
+#include <cmath>
 
 namespace {
 
@@ -186,11 +188,38 @@ void ViewController::loadLessonReference()
         }
     }
     setReference(stored);
+    // A lesson opened again: the starts its sentences placed with doubt are
+    // marked again where no one moved them. After an import the edit that
+    // brought the rows keeps the marks.
+    if (m_cuttingEdits->count() == 0) {
+        m_uncertainStarts = uncertainSentenceStarts();
+        showUncertainStarts();
+    }
+}
+
+QList<double> ViewController::uncertainSentenceStarts() const
+{
+    QList<double> starts;
+    if (!m_reference || !m_reference->isAligned())
+        return starts;
+    // The store keeps starts to the millisecond; the cut put them on the frame.
+    const SegmentList& segments = m_engine.segments();
+    for (const ReferenceUnit& unit : m_reference->units()) {
+        if (!unit.uncertain || !unit.start)
+            continue;
+        const qsizetype index = CuttingEdits::segmentAt(segments, *unit.start);
+        for (qsizetype i : {index, index + 1}) {
+            if (i > 0 && i < segments.size() &&
+                std::abs(segments[i].start - *unit.start) <= CuttingEdits::kFrame)
+                starts.append(segments[i].start);
+        }
+    }
+    return starts;
 }
 
 void ViewController::setReference(std::optional<ReferenceText> reference)
 {
-    const bool had = m_reference.has_value();
+    const bool changed = m_reference != reference;
     m_reference = std::move(reference);
     m_referenceBySegment =
         m_reference ? ReferenceMapping::map(*m_reference, m_engine.segments()) : QStringList();
@@ -205,6 +234,6 @@ void ViewController::setReference(std::optional<ReferenceText> reference)
                                                         : m_currentSegmentIndex);
         refreshDueCount();
     }
-    if (had != m_reference.has_value())
+    if (changed)
         emit referenceTextChanged(m_reference.has_value());
 }

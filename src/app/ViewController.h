@@ -179,6 +179,13 @@ public:
     // no analysis running, no question open).
     bool canEditCutting() const;
     QUndoStack* cuttingEdits() const { return m_cuttingEdits; }
+    // Whether the lesson shown has a reference text with times to cut at.
+    bool canCutAtSentences() const;
+    // The lesson cut anew, one step, so that each unit of the timed reference
+    // (a sentence, a cue) is one segment; each row's text goes to the segment
+    // that holds its old segment's middle. Starts from sentences placed with
+    // doubt are marked in the strip until they are moved.
+    void cutSegmentsAtSentences();
 
     // ---- The practice record and hard sentences (ViewController+Practice.cpp) ----
     // The open lesson's record, kept beside its transcript. Checks, hints and
@@ -226,7 +233,8 @@ signals:
     // A lesson appeared in the window, or the window went back to having none
     // (hasSegmentsShown()); the commands that need one follow it.
     void lessonShownChanged(bool shown);
-    // A reference text was attached to the lesson shown, or went away.
+    // A reference text was attached to the lesson shown, replaced by
+    // another, or went away.
     void referenceTextChanged(bool attached);
     // Practise Hard Sentences went on or off.
     void practisingHardSentencesChanged(bool on);
@@ -262,6 +270,9 @@ private:
     // reference is read again and laid over the segments.
     void loadLessonReference();
     void setReference(std::optional<ReferenceText> reference);
+    // The segment starts, but the first, within a frame of the start of a
+    // sentence the reference placed with doubt.
+    QList<double> uncertainSentenceStarts() const;
     void referenceFileRead(const QString& path, const QString& audioPath,
                            const std::optional<ReferenceText>& reference,
                            const ReferenceReadError& error);
@@ -288,7 +299,11 @@ private:
     // current; the state now is what an undo brings back.
     void pushCuttingEdit(const char* name, LessonCutting after, qint64 current,
                          std::optional<qsizetype> caret, int kind = -1, qint64 movedIndex = -1);
+    void pushCuttingState(const char* name, CuttingCommand::State next, int kind = -1,
+                          qint64 movedIndex = -1);
     void applyCutting(const CuttingCommand::State& state);
+    // The strip marks the segments whose start is in m_uncertainStarts.
+    void showUncertainStarts();
     // Every row emptied, the cutting kept.
     void clearAllRows();
     double playHeadPosition() const;
@@ -412,6 +427,8 @@ private:
 
     // The edits of the lesson shown's cutting; emptied when a lesson opens.
     QUndoStack* m_cuttingEdits = nullptr;
+    // Segment starts, in seconds, from sentences placed with doubt.
+    QList<double> m_uncertainStarts;
 
     // The practice record of the lesson shown, under the identity it was
     // read for; changes not yet saved, and the seconds since the last save.

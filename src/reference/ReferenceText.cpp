@@ -19,6 +19,8 @@ const QString UnitsKey = QStringLiteral("units");
 const QString TextKey = QStringLiteral("text");
 const QString StartKey = QStringLiteral("start");
 const QString EndKey = QStringLiteral("end");
+const QString UncertainKey = QStringLiteral("uncertain");
+const QString LanguageKey = QStringLiteral("language");
 
 std::optional<ReferenceText> fail(QString* error, const QString& reason)
 {
@@ -46,6 +48,19 @@ ReferenceText::ReferenceText(QString sourceName, QList<ReferenceUnit> units)
 {
 }
 
+ReferenceText ReferenceText::aligned(QString sourceName, const AlignedSentences& sentences,
+                                     QString language)
+{
+    QList<ReferenceUnit> units;
+    units.reserve(sentences.size());
+    for (const AlignedSentence& sentence : sentences)
+        units.append(
+            ReferenceUnit{sentence.text, sentence.start, sentence.end, sentence.uncertain});
+    ReferenceText reference(std::move(sourceName), std::move(units));
+    reference.setLanguage(std::move(language));
+    return reference;
+}
+
 bool ReferenceText::isTimed() const
 {
     return !m_units.isEmpty() && std::all_of(m_units.cbegin(), m_units.cend(),
@@ -61,10 +76,13 @@ QByteArray ReferenceText::toJson() const
             object.insert(StartKey, *unit.start);
         if (unit.end)
             object.insert(EndKey, *unit.end);
+        if (unit.uncertain)
+            object.insert(UncertainKey, true);
         units.append(object);
     }
-    const QJsonObject root{
-        {VersionKey, FormatVersion}, {SourceKey, m_sourceName}, {UnitsKey, units}};
+    QJsonObject root{{VersionKey, FormatVersion}, {SourceKey, m_sourceName}, {UnitsKey, units}};
+    if (!m_language.isEmpty())
+        root.insert(LanguageKey, m_language);
     return QJsonDocument(root).toJson(QJsonDocument::Indented);
 }
 
@@ -80,6 +98,9 @@ std::optional<ReferenceText> ReferenceText::fromJson(const QByteArray& json, QSt
         return fail(error, QStringLiteral("no source file name"));
     if (!root.value(UnitsKey).isArray())
         return fail(error, QStringLiteral("no list of units"));
+    const QJsonValue language = root.value(LanguageKey);
+    if (!language.isUndefined() && !language.isString())
+        return fail(error, QStringLiteral("a language that is not text"));
 
     const QJsonArray array = root.value(UnitsKey).toArray();
     QList<ReferenceUnit> units;
@@ -92,8 +113,15 @@ std::optional<ReferenceText> ReferenceText::fromJson(const QByteArray& json, QSt
         ReferenceUnit unit{object.value(TextKey).toString(), {}, {}};
         if (!readTime(object, StartKey, &unit.start) || !readTime(object, EndKey, &unit.end))
             return fail(error, where + QStringLiteral("a time that is not a number"));
+        const QJsonValue uncertain = object.value(UncertainKey);
+        if (!uncertain.isUndefined() && !uncertain.isBool())
+            return fail(error,
+                        where + QStringLiteral("an uncertain mark that is not true or false"));
+        unit.uncertain = uncertain.toBool(false);
         if (unit.start.has_value() != unit.end.has_value())
             return fail(error, where + QStringLiteral("a start without an end or the reverse"));
+        if (unit.uncertain && !unit.isTimed())
+            return fail(error, where + QStringLiteral("an uncertain start that is not there"));
         if (unit.isTimed() && *unit.start < 0.0)
             return fail(error, where + QStringLiteral("a negative time"));
         if (unit.isTimed() && *unit.end < *unit.start)
@@ -102,5 +130,7 @@ std::optional<ReferenceText> ReferenceText::fromJson(const QByteArray& json, QSt
             return fail(error, where + QStringLiteral("timed and untimed units mixed"));
         units.append(std::move(unit));
     }
-    return ReferenceText(root.value(SourceKey).toString(), std::move(units));
+    ReferenceText reference(root.value(SourceKey).toString(), std::move(units));
+    reference.setLanguage(language.toString());
+    return reference;
 }

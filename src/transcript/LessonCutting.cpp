@@ -115,6 +115,44 @@ std::optional<LessonCutting> moveStart(const LessonCutting& cutting, qsizetype i
     return result;
 }
 
+std::optional<LessonCutting> cutAt(const LessonCutting& cutting, const QList<double>& starts,
+                                   QList<qsizetype>* from)
+{
+    if (cutting.segments.isEmpty() || starts.isEmpty() ||
+        cutting.texts.size() != cutting.segments.size())
+        return std::nullopt;
+    const double begin = cutting.segments.first().start;
+    const double end = cutting.segments.last().end();
+    QList<double> at{begin};
+    QList<qsizetype> source{0};
+    for (qsizetype i = 1; i < starts.size(); ++i) {
+        const double start = onFrame(starts[i]);
+        if (start - at.last() < kShortestPart - kSlack || end - start < kShortestPart - kSlack)
+            continue;
+        at.append(start);
+        source.append(i);
+    }
+    LessonCutting result;
+    for (qsizetype k = 0; k < at.size(); ++k) {
+        const double next = k + 1 < at.size() ? at[k + 1] : end;
+        result.segments.append(Segment{at[k], next - at[k]});
+        result.texts.append(QString());
+    }
+    for (qsizetype j = 0; j < cutting.segments.size(); ++j) {
+        const QString& text = cutting.texts[j];
+        if (text.isEmpty())
+            continue;
+        const Segment& old = cutting.segments[j];
+        const qsizetype to =
+            std::max<qsizetype>(0, segmentAt(result.segments, old.start + old.duration / 2.0));
+        QString& row = result.texts[to];
+        row = row.isEmpty() ? text : row + u' ' + text;
+    }
+    if (from)
+        *from = std::move(source);
+    return result;
+}
+
 QList<qsizetype> carriedTo(const SegmentList& before, const SegmentList& after)
 {
     QList<qsizetype> to;

@@ -48,6 +48,17 @@ double allowedStart(const SegmentList& segments, qsizetype index, double seconds
 std::optional<LessonCutting> moveStart(const LessonCutting& cutting, qsizetype index,
                                        double seconds);
 
+// The lesson cut anew so that each of `starts` (seconds, in order) begins a
+// segment, rounded to the frame: the first segment still begins where the
+// cutting does and the last ends where it does. A start that would leave a
+// part shorter than kShortestPart begins none. Each row's text goes to the
+// new segment that holds its old segment's midpoint, several joined with one
+// space in order (an empty one adds none). `from`, when given, gets for each
+// new segment the index in `starts` of the start that begins it (the first
+// segment's is 0). Nothing for an empty cutting or no starts.
+std::optional<LessonCutting> cutAt(const LessonCutting& cutting, const QList<double>& starts,
+                                   QList<qsizetype>* from = nullptr);
+
 // Where each segment of `before` went in `after`: the new segment that
 // overlaps it most (the earlier one on a tie), -1 when none does. A split's
 // segment goes to its longer part, merged segments go to the same one, and a

@@ -28,6 +28,15 @@ QColor markerBlue()
     return QColor(89, 180, 240);
 }
 
+// A start the learner should look at. The marker blue is nearly the sky blue
+// of the Okabe-Ito palette, whose orange stays apart from it for every common
+// kind of colour blindness; both stand 4.5:1 against the waveform's grey. The
+// line is solid and twice as wide, so it differs in shape as well as colour.
+QColor uncertainAmber()
+{
+    return QColor(230, 159, 0);
+}
+
 QColor waveformGrey()
 {
     return QColor(65, 65, 65);
@@ -254,11 +263,16 @@ void WaveformView::drawBoundaries(QPainter& painter, const Frame& f) const
         const double w = firstSegment ? 12.0 : 15.0;
         const double left = firstSegment ? x : x - 7.5;
         if (touches(left - 1.0, left + w + 1.0, f.dirtyLeft, f.dirtyRight)) {
-            drawDashedSeparator(painter, x, kWaveBottom, H - kWaveBottom);
+            const bool uncertain = m_uncertainStarts.contains(i);
+            const QColor color = uncertain ? uncertainAmber() : markerBlue();
+            if (uncertain)
+                drawSolidSeparator(painter, x, kWaveBottom, H - kWaveBottom, color);
+            else
+                drawDashedSeparator(painter, x, kWaveBottom, H - kWaveBottom);
             drawTriangle(painter, QRectF(left, H - kWaveBottom, w, kMarkerHeight), true,
-                         firstSegment, false);
+                         firstSegment, false, color);
             drawTriangle(painter, QRectF(left, kRulerHeight, w, kMarkerHeight), false, firstSegment,
-                         false);
+                         false, color);
         }
         // The end of the recording, closing the last segment.
         const double e = f.extent;
@@ -266,15 +280,15 @@ void WaveformView::drawBoundaries(QPainter& painter, const Frame& f) const
             touches(e - 13.0, e + 1.0, f.dirtyLeft, f.dirtyRight)) {
             drawDashedSeparator(painter, e, kWaveBottom, H - kWaveBottom);
             drawTriangle(painter, QRectF(e - 12.0, H - kWaveBottom, 12.0, kMarkerHeight), true,
-                         true, true);
+                         true, true, markerBlue());
             drawTriangle(painter, QRectF(e - 12.0, kRulerHeight, 12.0, kMarkerHeight), false, true,
-                         true);
+                         true, markerBlue());
         }
     }
 }
 
 void WaveformView::drawTriangle(QPainter& painter, const QRectF& r, bool inverted, bool rightAngle,
-                                bool leftDirection)
+                                bool leftDirection, const QColor& color)
 {
     const double x = r.x(), y = r.y(), w = r.width(), h = r.height();
     // Base on the band edge away from the waveform, apex towards it.
@@ -297,7 +311,7 @@ void WaveformView::drawTriangle(QPainter& painter, const QRectF& r, bool inverte
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(markerBlue());
+    painter.setBrush(color);
     painter.drawPolygon(points, 3);
     painter.restore();
 }
@@ -307,6 +321,15 @@ void WaveformView::drawDashedSeparator(QPainter& painter, double x, double fromY
     QPen pen(markerBlue(), 1.0);
     pen.setDashPattern({3.0, 3.0});
     pen.setDashOffset(0.0);
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawLine(QPointF(x, fromY), QPointF(x, toY));
+}
+
+void WaveformView::drawSolidSeparator(QPainter& painter, double x, double fromY, double toY,
+                                      const QColor& color)
+{
+    QPen pen(color, 2.0);
     pen.setCapStyle(Qt::FlatCap);
     painter.setPen(pen);
     painter.drawLine(QPointF(x, fromY), QPointF(x, toY));

@@ -63,8 +63,17 @@ void WaveformView::updateWithSegments(const SegmentList& segments)
         unsetCursor();
     }
     m_segments = segments;
+    m_uncertainStarts.clear();
     m_lineNumberCache.clear();
     m_currentSegmentIndex = -1;
+    update();
+}
+
+void WaveformView::setUncertainStarts(const QSet<qint64>& indices)
+{
+    if (indices == m_uncertainStarts)
+        return;
+    m_uncertainStarts = indices;
     update();
 }
 

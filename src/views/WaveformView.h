@@ -10,6 +10,7 @@
 #include <QPointF>
 #include <QPointer>
 #include <QRectF>
+#include <QSet>
 #include <QStaticText>
 #include <QTransform>
 #include <QWidget>
@@ -17,6 +18,7 @@
 
 class AudioManager;
 class NotificationCenter;
+class QColor;
 class QPainter;
 class QScrollArea;
 
@@ -42,6 +44,10 @@ public:
     void updateWithSegments(const SegmentList& segments);
     void updateWaveformData(const QList<float>& peaks);
     void setCurrentSegment(qint64 index);
+    // The segments whose start is an uncertain boundary: drawn in their own
+    // colour and solid, draggable like any other. A new segment list clears them.
+    void setUncertainStarts(const QSet<qint64>& indices);
+    const QSet<qint64>& uncertainStarts() const { return m_uncertainStarts; }
     // Width = the viewport's, or the recording's when there is waveform data.
     void updateViewWidth();
     // Width = the larger of the viewport's and the recording's, data or not.
@@ -140,8 +146,10 @@ private:
     void drawPlayhead(QPainter& painter, const Frame& f);
     void drawLineNumbers(QPainter& painter, const Frame& f);
     static void drawTriangle(QPainter& painter, const QRectF& rect, bool inverted, bool rightAngle,
-                             bool leftDirection);
+                             bool leftDirection, const QColor& color);
     static void drawDashedSeparator(QPainter& painter, double x, double fromY, double toY);
+    static void drawSolidSeparator(QPainter& painter, double x, double fromY, double toY,
+                                   const QColor& color);
     const QStaticText& rulerLabel(qint64 seconds);
     const QStaticText& lineNumberLabel(qint64 number);
 
@@ -149,6 +157,7 @@ private:
     NotificationCenter& m_center;
 
     SegmentList m_segments;
+    QSet<qint64> m_uncertainStarts;
     qint64 m_currentSegmentIndex = -1;
     QList<float> m_waveformData;
     double m_totalDuration = 0.0; // D, as of the segments shown

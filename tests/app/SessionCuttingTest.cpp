@@ -3,18 +3,23 @@
 // presses: a split at the play head and at the caret, a merge, a moved start,
 // each undone and redone exactly; the store after the save, and the edited
 // cutting back at the next open although it has fewer rows than a fresh one.
+// A cut at the sentences of an aligned reference, its rows and uncertain starts.
 
+#include "app/FileIdentity.h"
 #include "app/MainWindowController.h"
 #include "app/ViewController.h"
 #include "app/WindowHarness.h"
 #include "audio/AudioManager.h"
 #include "audio/AudioPlayer.h"
 #include "localization/LocalizedTexts.h"
+#include "reference/ReferenceStore.h"
 #include "support/TestSupport.h"
+#include "transcript/DocumentManager.h"
 #include "transcript/LrcReader.h"
 #include "views/TranscriptionTableView.h"
 #include "views/WaveformView.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
@@ -27,6 +32,7 @@
 
 using TestSupport::fixture;
 using TestSupport::readFile;
+using TestSupport::writeFile;
 
 namespace {
 
@@ -229,4 +235,93 @@ TEST(SessionCutting, SplitMergeMoveUndoAndTheEditedCuttingComingBack)
         ASSERT_TRUE(h.open(lesson));
         expectSame(cuttingOf(h), kept, "reopened", 0.0011);
     }
+}
+
+TEST(SessionCutting, CutAtSentencesCarriesRowsByTheirMiddleAndMarksUncertainStarts)
+{
+    QTemporaryDir folder;
+    const QString lesson = folder.filePath("lesson.wav");
+    ASSERT_TRUE(QFile::copy(fixture("speech.wav"), lesson));
+    WindowHarness h;
+    QApplication::setActiveWindow(&h.window());
+    ASSERT_TRUE(h.open(lesson));
+    ViewController& session = h.session();
+    WaveformView* strip = session.waveformView();
+    auto* command = h.window().findChild<QAction*>(QStringLiteral("menuCutAtSentences"));
+    ASSERT_NE(command, nullptr);
+    ASSERT_EQ(h.engine().numberOfSegments(), 5);
+    const QStringList rows = {"good morning", "everyone", "", "see you", "goodbye"};
+    for (int i = 0; i < 5; ++i) {
+        session.transcriptionTableView()->setCurrentSegment(i);
+        QLineEdit* row = focusedRow(h, i);
+        ASSERT_NE(row, nullptr);
+        QTest::keyClicks(row, rows[i]);
+    }
+
+    // Without a reference, or with one without times, there is nothing to cut at.
+    EXPECT_FALSE(command->isEnabled());
+    const QString plain = folder.filePath("plain.txt");
+    writeFile(plain, "Good morning everyone.\nSee you. Goodbye.\n");
+    session.attachReferenceTextFrom(plain);
+    ASSERT_TRUE(waitFor([&] { return session.hasReferenceText(); }));
+    EXPECT_FALSE(command->isEnabled());
+    session.cutSegmentsAtSentences();
+    EXPECT_EQ(session.cuttingEdits()->count(), 0);
+
+    // An aligned reference: a sentence before row 0's middle, one holding
+    // rows 0 to 2 whose start is uncertain, one holding the rest.
+    const SegmentList old = h.engine().segments();
+    auto middle = [&](int i) { return old[i].start + old[i].duration / 2.0; };
+    const double second = middle(0) / 2.0;
+    const double third = (middle(2) + old[3].start) / 2.0;
+    const AlignedSentences sentences = {{"Hello.", 0.04, second, false},
+                                        {"Good morning everyone.", second, third, true},
+                                        {"See you. Goodbye.", third, old.last().end(), false}};
+    h.finishAutoSaves();
+    ASSERT_TRUE(ReferenceStore(DocumentManager(h.documentsPath()))
+                    .save(*FileIdentity::uniqueIdentifierForFileAtPath(lesson),
+                          ReferenceText::aligned("story.txt", sentences, "en")));
+    ASSERT_TRUE(h.open(lesson));
+    const Cutting before = cuttingOf(h);
+    ASSERT_EQ(before.texts, rows);
+    EXPECT_TRUE(command->isEnabled());
+
+    command->trigger();
+    const Cutting cut = cuttingOf(h);
+    ASSERT_EQ(cut.starts.size(), 3);
+    EXPECT_NEAR(cut.starts[0], before.starts[0], 1e-9);
+    EXPECT_NEAR(cut.starts[1], onFrame(second), 1e-9);
+    EXPECT_NEAR(cut.starts[2], onFrame(third), 1e-9);
+    EXPECT_EQ(cut.texts, (QStringList{"", "good morning everyone", "see you goodbye"}));
+    EXPECT_EQ(session.transcriptionTableView()->model()->rowCount(), 3);
+    EXPECT_EQ(strip->segments().size(), 3);
+    EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
+    EXPECT_EQ(strip->accessibleDescription(), "Uncertain segment starts: 2");
+    EXPECT_EQ(session.statusBar()->currentMessage(), "Segments now: 3");
+    EXPECT_EQ(session.cuttingEdits()->count(), 1);
+    h.finishAutoSaves();
+    EXPECT_EQ(storedStarts(h.storePath()).size(), 3);
+
+    session.undoCuttingEdit();
+    expectSame(cuttingOf(h), before, "cut undone");
+    EXPECT_TRUE(strip->uncertainStarts().isEmpty());
+    EXPECT_TRUE(strip->accessibleDescription().isEmpty());
+    session.redoCuttingEdit();
+    expectSame(cuttingOf(h), cut, "cut redone");
+    EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
+
+    // The learner's moves: the other start keeps the mark, a moved uncertain
+    // one loses it until the move is undone.
+    emit strip->boundaryMoved(2, cut.starts[2] - 0.2);
+    EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
+    emit strip->boundaryMoved(1, cut.starts[1] + 0.2);
+    EXPECT_TRUE(strip->uncertainStarts().isEmpty());
+    session.undoCuttingEdit();
+    EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
+
+    // Opened again, the uncertain start unmoved is marked again.
+    h.finishAutoSaves();
+    ASSERT_TRUE(h.open(lesson));
+    EXPECT_EQ(strip->segments().size(), 3);
+    EXPECT_EQ(strip->uncertainStarts(), QSet<qint64>{1});
 }

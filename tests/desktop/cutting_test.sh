@@ -4,7 +4,8 @@
 # window manager with a PulseAudio null sink, driven by real key presses and
 # a real mouse drag. A row is split at the play head and at its caret
 # (Ctrl+B), merged back with the next (Ctrl+J), undone (Ctrl+Z), and a
-# boundary is dragged in the waveform strip; the rows are read through the
+# boundary is dragged in the waveform strip; then a subtitle file is attached
+# and Alt+E, S cuts the lesson at its cues. The rows are read through the
 # accessibility bus and the dragged start from the store file.
 #
 # Usage: cutting_test.sh KELMORA FIXTURE SCREENSHOT_DIR
@@ -86,3 +87,29 @@ done
 sleep 0.3
 screenshot cutting-strip-after
 echo "the dragged start saved: $(grep -c '' "$store") lines, $(grep '^\[00:09' "$store")"
+
+# Subtitles in three cues, attached through the File menu; Alt+E, S (Edit →
+# Cut Segments at Sentences) makes one segment of each, and Ctrl+Z takes the
+# cut back.
+subtitles="$work/lesson.srt"
+printf '%s\r\n' 1 "00:00:00,000 --> 00:00:04,700" "Good morning, everyone. Today we will practise." "" \
+  2 "00:00:04,800 --> 00:00:07,900" "Please write down every sentence you hear." "" \
+  3 "00:00:08,000 --> 00:00:14,000" "Take your time. See you next week." "" > "$subtitles"
+xdotool key alt+f
+sleep 0.3
+xdotool key a
+panel="$(window_named "Attach Reference Text…")" || fail "Alt+F, A opened no file panel"
+xdotool windowactivate --sync "$panel"
+xdotool type --delay 20 "$subtitles"
+xdotool key Return
+until_equal "the check bar once attached" "Press Ctrl+Return to check this segment." \
+  probe described Check
+xdotool windowactivate --sync "$main"
+xdotool key alt+e
+sleep 0.3
+xdotool key s
+until_equal "rows after Cut Segments at Sentences" "3" probe rows
+screenshot cutting-at-sentences
+xdotool key ctrl+z
+until_equal "rows after undoing the cut" "5" probe rows
+echo "cut at the subtitles' three cues through Alt+E, S, and undone"

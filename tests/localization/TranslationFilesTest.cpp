@@ -6,6 +6,7 @@
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedTexts.h"
 #include "localization/PracticeTexts.h"
+#include "localization/SentenceCutTexts.h"
 #include "preferences/Defaults.h"
 #include "preferences/PreferenceKeys.h"
 #include "support/TestSupport.h"
@@ -88,7 +89,7 @@ QStringList placeholders(const QString& text)
     return found + numbered;
 }
 
-// Every list of texts in LocalizedTexts.h and PracticeTexts.h.
+// Every list of texts in LocalizedTexts.h, PracticeTexts.h and SentenceCutTexts.h.
 QList<const char*> textList()
 {
     QList<const char*> texts(Texts::All.begin(), Texts::All.end());
@@ -104,6 +105,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::Cutting.begin(), Texts::Cutting.end()));
     texts.append(QList<const char*>(Texts::PracticeSettings.begin(), Texts::PracticeSettings.end()));
     texts.append(QList<const char*>(Texts::Practice.begin(), Texts::Practice.end()));
+    texts.append(QList<const char*>(Texts::SentenceCutting.begin(), Texts::SentenceCutting.end()));
     return texts;
 }
 

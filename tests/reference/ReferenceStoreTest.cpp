@@ -18,6 +18,11 @@ TEST(ReferenceText, JsonRoundTripKeepsEveryTimeAndCharacter)
                        timed("\u65e5\u672c\u8a9e \U0001F600", 3723.004, 1e6 / 3.0)}),
         ReferenceText("plain.txt", {untimed("First line."), untimed("")}),
         ReferenceText("empty.srt", {}),
+        ReferenceText::aligned("story.txt",
+                               {{"First one.", 0.0, 2.48, false},
+                                {"Second été.", 2.48, 5.0, true},
+                                {"Third.", 5.02, 7.5, false}},
+                               "fr"),
     };
     for (const ReferenceText& reference : references) {
         SCOPED_TRACE(reference.sourceName().toStdString());
@@ -29,6 +34,25 @@ TEST(ReferenceText, JsonRoundTripKeepsEveryTimeAndCharacter)
     }
     EXPECT_TRUE(references[0].toJson().contains("\"version\": 1"));
     EXPECT_FALSE(references[1].toJson().contains("\"start\""));
+
+    const ReferenceText& aligned = references[3];
+    EXPECT_TRUE(aligned.isAligned());
+    EXPECT_TRUE(aligned.isTimed());
+    EXPECT_EQ(aligned.language(), "fr");
+    EXPECT_EQ(aligned.units()[1], timed("Second \u00e9t\u00e9.", 2.48, 5.0, true));
+    EXPECT_EQ(aligned.toJson().count("\"uncertain\""), 1);
+
+    // A file written before alignment existed reads as not aligned and is
+    // written again byte for byte.
+    const QByteArray older = "{\n    \"source\": \"a.srt\",\n    \"units\": [\n        {\n"
+                             "            \"end\": 2,\n            \"start\": 1,\n"
+                             "            \"text\": \"one\"\n        }\n    ],\n"
+                             "    \"version\": 1\n}\n";
+    const std::optional<ReferenceText> read = ReferenceText::fromJson(older);
+    ASSERT_TRUE(read);
+    EXPECT_FALSE(read->isAligned());
+    EXPECT_FALSE(read->units()[0].uncertain);
+    EXPECT_EQ(read->toJson(), older);
 }
 
 TEST(ReferenceText, MalformedJsonIsAnErrorNotACrash)
@@ -62,6 +86,13 @@ TEST(ReferenceText, MalformedJsonIsAnErrorNotACrash)
         {"{\"version\": 1, \"source\": \"a\", \"units\": [{\"text\": \"x\"}, {\"text\": \"y\", "
          "\"start\": 1, \"end\": 2}]}",
          "unit 2: timed and untimed units mixed"},
+        {"{\"version\": 1, \"source\": \"a\", \"language\": 3, \"units\": []}",
+         "a language that is not text"},
+        {"{\"version\": 1, \"source\": \"a\", \"units\": [{\"text\": \"x\", \"start\": 1, "
+         "\"end\": 2, \"uncertain\": \"yes\"}]}",
+         "unit 1: an uncertain mark that is not true or false"},
+        {"{\"version\": 1, \"source\": \"a\", \"units\": [{\"text\": \"x\", \"uncertain\": true}]}",
+         "unit 1: an uncertain start that is not there"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.json.toStdString());

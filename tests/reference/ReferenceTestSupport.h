@@ -23,14 +23,16 @@ inline void PrintTo(const ReferenceUnit& unit, std::ostream* out)
         *out << ", " << *unit.start;
     if (unit.end)
         *out << ", " << *unit.end;
+    if (unit.uncertain)
+        *out << ", uncertain";
     *out << '}';
 }
 
 namespace ReferenceTest {
 
-inline ReferenceUnit timed(const QString& text, double start, double end)
+inline ReferenceUnit timed(const QString& text, double start, double end, bool uncertain = false)
 {
-    return ReferenceUnit{text, start, end};
+    return ReferenceUnit{text, start, end, uncertain};
 }
 
 inline ReferenceUnit untimed(const QString& text)

@@ -106,3 +106,47 @@ TEST(LessonCutting, MergeAndMoveStayInsideTheirNeighbours)
     EXPECT_EQ(carriedTo(cut->segments, c.segments), (QList<qsizetype>{0, 1, 2, 2}));
     EXPECT_EQ(carriedTo(c.segments, moveStart(c, 2, 5.0)->segments), (QList<qsizetype>{0, 1, 2}));
 }
+
+TEST(LessonCutting, CutAtStartsCarriesEachRowToTheSegmentHoldingItsMidpoint)
+{
+    // Rows' midpoints: 2.0 ("one two"), 4.075 (empty), 7.075 ("three").
+    const LessonCutting c = threeSegments();
+    struct Case
+    {
+        const char* what;
+        QList<double> starts;
+        QList<double> cut;
+        QStringList texts;
+        QList<qsizetype> from;
+    };
+    const Case cases[] = {
+        {"one row each", {0.3, 2.5, 6.011}, {0.0, 2.5, 6.02}, {"one two", "", "three"}, {0, 1, 2}},
+        {"two rows joined", {0.0, 8.0}, {0.0, 8.0}, {"one two three", ""}, {0, 1}},
+        {"a sentence before the first midpoint",
+         {0.5, 1.0, 3.0},
+         {0.0, 1.0, 3.0},
+         {"", "one two", "three"},
+         {0, 1, 2}},
+        {"starts too close, too late or past the end",
+         {0.0, 0.05, 4.0, 4.06, 9.95, 12.0},
+         {0.0, 4.0},
+         {"one two", "three"},
+         {0, 2}},
+    };
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.what);
+        QList<qsizetype> from;
+        const std::optional<LessonCutting> r = cutAt(c, k.starts, &from);
+        ASSERT_TRUE(r);
+        ASSERT_EQ(r->segments.size(), k.cut.size());
+        for (qsizetype i = 0; i < k.cut.size(); ++i) {
+            EXPECT_NEAR(r->segments[i].start, k.cut[i], 1e-9);
+            const double end = i + 1 < k.cut.size() ? k.cut[i + 1] : 10.0;
+            EXPECT_NEAR(r->segments[i].end(), end, 1e-9);
+        }
+        EXPECT_EQ(r->texts, k.texts);
+        EXPECT_EQ(from, k.from);
+    }
+    EXPECT_FALSE(cutAt(c, {}));
+    EXPECT_FALSE(cutAt(LessonCutting{}, {1.0}));
+}

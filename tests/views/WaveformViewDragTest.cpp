@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Dragging a segment's start marker in the waveform strip: the proposed time,
-// the cursor, what is drawn meanwhile, and the ways a drag comes to nothing.
+// the cursor, what is drawn meanwhile, the ways a drag comes to nothing, and
+// an uncertain start drawn apart from the others.
 
 #include "WaveformViewFixture.h"
 
@@ -135,4 +136,36 @@ TEST_F(WaveformViewTest, DraggingAStartMarkerProposesAClampedBoundary)
     EXPECT_EQ(selected, (QList<qint64>{2, 0, 1}));
     EXPECT_FALSE(view->isDraggingBoundary());
     EXPECT_TRUE(moved.isEmpty());
+
+    // An uncertain start is amber, its line solid where the others' are
+    // dashed blue; it is dragged like any other, and new segments forget it.
+    view->setUncertainStarts({1});
+    image = shot();
+    auto isAmber = [](QRgb p) {
+        return qRed(p) > 200 && qGreen(p) > 120 && qGreen(p) < 200 && qBlue(p) < 60;
+    };
+    auto rowsLit = [&](int x, const std::function<bool(QRgb)>& match) {
+        int rows = 0;
+        for (int y = 40; y < h - 40; ++y)
+            rows += countPixels(image, QRect(x - 2, y, 5, 1), match) > 0 ? 1 : 0;
+        return rows;
+    };
+    EXPECT_EQ(rowsLit(120, isAmber), h - 80);
+    EXPECT_EQ(rowsLit(120, isMarkerBlue), 0);
+    const int dashed = rowsLit(240, isMarkerBlue);
+    EXPECT_GT(dashed, (h - 80) / 3);
+    EXPECT_LT(dashed, (h - 80) * 2 / 3);
+    EXPECT_EQ(rowsLit(240, isAmber), 0);
+    for (const int y : {21, h - 22}) {
+        EXPECT_EQ(countPixels(image, QRect(117, y, 7, 1), isAmber), 7) << y;
+        EXPECT_EQ(countPixels(image, QRect(237, y, 7, 1), isMarkerBlue), 7) << y;
+    }
+    QTest::mousePress(view, Qt::LeftButton, {}, QPoint(120, upper));
+    ASSERT_TRUE(view->isDraggingBoundary());
+    QTest::mouseMove(view, QPoint(160, upper));
+    QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(160, upper));
+    ASSERT_EQ(moved.size(), 1);
+    EXPECT_DOUBLE_EQ(moved[0][1].toDouble(), 8.0);
+    view->updateWithSegments(segments);
+    EXPECT_TRUE(view->uncertainStarts().isEmpty());
 }

@@ -959,5 +959,21 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>Dein Übungsverlauf konnte nicht gelesen werden und wird nicht überschrieben: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>Abschnitte an Sätzen sc&amp;hneiden</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>An Sätzen schneiden</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>Abschnitte jetzt: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Unsichere Abschnittsanfänge: %@</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,21 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>Your practice record could not be read and is not saved over: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>Cut Segments at &amp;Sentences</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>Cut at Sentences</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>Segments now: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Uncertain segment starts: %@</translation>
+    </message>
 </context>
 </TS>

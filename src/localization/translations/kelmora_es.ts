@@ -959,5 +959,21 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>No se pudo leer tu registro de práctica y no se sobrescribirá: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>Cortar segmentos en &amp;oraciones</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>Cortar en oraciones</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>Segmentos ahora: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Inicios de segmento dudosos: %@</translation>
+    </message>
 </context>
 </TS>

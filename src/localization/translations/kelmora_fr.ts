@@ -959,5 +959,21 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>Impossible de lire votre suivi d’entraînement ; il ne sera pas écrasé : %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>&amp;Couper les segments aux phrases</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>Couper aux phrases</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>Segments maintenant : %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Débuts de segment incertains : %@</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>練習記録を読み込めないため、上書きしません：%@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>文ごとにセグメントを分割(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>文ごとに分割</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>現在のセグメント数: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>不確かなセグメントの開始: %@</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>연습 기록을 읽을 수 없어 덮어쓰지 않습니다: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>문장마다 구간 나누기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>문장마다 나누기</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>현재 구간 수: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>불확실한 구간 시작: %@</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>Не удалось прочитать журнал занятий, он не будет перезаписан: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>&amp;Разрезать сегменты по предложениям</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>Разрезать по предложениям</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>Сегментов теперь: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Неуверенные начала сегментов: %@</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,21 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>Không đọc được bản ghi luyện tập và sẽ không ghi đè: %@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>&amp;Cắt đoạn theo câu</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>Cắt theo câu</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>Số đoạn hiện tại: %d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>Điểm bắt đầu đoạn chưa chắc chắn: %@</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,21 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Your practice record could not be read and is not saved over: %@</source>
         <translation>无法读取练习记录，不会覆盖它：%@</translation>
     </message>
+    <message>
+        <source>Cut Segments at &amp;Sentences</source>
+        <translation>按句子切分分段(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cut at Sentences</source>
+        <translation>按句子切分</translation>
+    </message>
+    <message>
+        <source>Segments now: %d</source>
+        <translation>现在的分段数：%d</translation>
+    </message>
+    <message>
+        <source>Uncertain segment starts: %@</source>
+        <translation>不确定的分段起点：%@</translation>
+    </message>
 </context>
 </TS>
