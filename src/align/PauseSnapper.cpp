@@ -13,6 +13,9 @@ PauseSnapper::PauseSnapper(const QList<float>& loudness, double duration)
     if (loudness.isEmpty())
         return;
     const Loudness::Statistics stats = Loudness::statistics(loudness);
+    // Below -80 dB throughout: a silent file, with nothing to place.
+    if (stats.max < 1e-4f)
+        return;
     constexpr int kMediumSensitivity = 1;
     const float threshold = Segmentation::adaptiveThreshold(stats.average, stats.stdDev, stats.max,
                                                             kMediumSensitivity);
