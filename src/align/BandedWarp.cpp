@@ -74,7 +74,8 @@ std::optional<BandedWarp::Path> BandedWarp::align(const std::vector<float>& rows
         return fail(QStringLiteral("Nothing to align"));
     const Band band{n, m, halfWidth};
     // Neighbouring rows' bands must overlap, or no path can cross them.
-    if (n > 1 && double(m - 1) / double(n - 1) > double(halfWidth))
+    const double slope = n > 1 ? double(m - 1) / double(n - 1) : double(m - 1);
+    if (slope > double(halfWidth))
         return fail(QStringLiteral("The text is far longer than the recording"));
 
     const std::size_t width = 2 * std::size_t(halfWidth) + 1;

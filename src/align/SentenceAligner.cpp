@@ -252,6 +252,8 @@ std::optional<AlignedSentences> SentenceAligner::align(const QString& audioPath,
     RecordingFeatures& recording = *reading.features();
     spent.decodeSeconds = reading.seconds() - recording.featureSeconds;
 
+    if (recording.mfcc.empty())
+        return fail(QStringLiteral("The recording is too short to align"));
     const Clock::time_point poolingStart = Clock::now();
     std::vector<float> rows = Mfcc::pooled(recording.mfcc, kPooling);
     std::vector<float>().swap(recording.mfcc);

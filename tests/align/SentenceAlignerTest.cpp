@@ -198,6 +198,7 @@ TEST(SentenceAligner, BadInputGetsAOneLineReason)
         {l.audio, l.sentences, "", "\"\""},
         {fixture("text.mp3"), l.sentences, "fr", "text.mp3"},
         {fixture("truncated-nothing-here.mp3"), l.sentences, "fr", "truncated-nothing-here.mp3"},
+        {fixture("short_0.05s.wav"), l.sentences, "fr", "far longer than the recording"},
         {fixture("silent.wav"), l.sentences.mid(0, 2), "fr", ""},
     };
     for (const auto& c : cases) {
