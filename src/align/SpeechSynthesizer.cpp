@@ -96,7 +96,8 @@ bool SpeechSynthesizer::speak(const QStringList& sentences, const QString& voice
             return fail(QStringLiteral("Cancelled"));
         const QByteArray text = sentences[i].toUtf8();
         const espeak_ERROR rc = espeak_Synth(text.constData(), size_t(text.size()) + 1, 0,
-                                             POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, nullptr);
+                                             POS_CHARACTER, 0, espeakCHARS_UTF8 | espeakENDPAUSE, nullptr,
+                                             nullptr);
         if (run.stopped)
             return fail(QStringLiteral("Cancelled"));
         if (rc != EE_OK)

@@ -3,9 +3,12 @@
 // language, and a text's script picks one.
 
 #include "align/AlignmentLanguages.h"
+#include "align/SpeechSynthesizer.h"
 
 #include <QHash>
+#include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -18,6 +21,31 @@ QString phonemes(const QString& voice, const QString& text)
     espeak.start(QStringLiteral("espeak-ng"), {"-q", "-x", "-v", voice, text});
     EXPECT_TRUE(espeak.waitForFinished(10000));
     return QString::fromUtf8(espeak.readAllStandardOutput()).simplified();
+}
+
+// Samples the espeak-ng program writes for `text` with `voice`.
+qint64 programSamples(const QString& voice, const QString& text)
+{
+    QTemporaryDir dir;
+    const QString wav = dir.filePath("out.wav");
+    EXPECT_EQ(QProcess::execute("espeak-ng", {"-v", voice, "-w", wav, text}), 0);
+    return (QFileInfo(wav).size() - 44) / 2; // 16-bit mono after a 44-byte header
+}
+
+// Samples the aligner's own synthesis gives.
+qint64 alignerSamples(const QString& voice, const QString& text)
+{
+    qint64 samples = 0;
+    QString error;
+    EXPECT_TRUE(SpeechSynthesizer::speak(
+        {text}, voice,
+        [&](const int16_t*, int count) {
+            samples += count;
+            return true;
+        },
+        {}, nullptr, &error))
+        << error.toStdString();
+    return samples;
 }
 
 } // namespace
@@ -76,6 +104,13 @@ TEST(AlignmentLanguages, EveryOfferedVoiceReadsItsOwnLanguageNumbersIncluded)
     // Mandarin's number is read in Mandarin (shi2 er4), never as English digits.
     const QString mandarin = phonemes(AlignmentLanguages::voice("cmn"), "12点");
     EXPECT_TRUE(mandarin.contains("s.i.35") && mandarin.contains("@r51")) << mandarin.toStdString();
+    // The aligner speaks with that voice, not with espeak-ng's other Mandarin
+    // one, which reads numbers in English: its sound is as long as the
+    // first's and far from the second's.
+    const QString numbers = QString::fromUtf8("2023年12点");
+    const qint64 spoken = alignerSamples(AlignmentLanguages::voice("cmn"), numbers);
+    EXPECT_LT(std::abs(spoken - programSamples("cmn-latn-pinyin", numbers)),
+              std::abs(spoken - programSamples("cmn", numbers)) / 4);
 
     for (const char* unknown : {"", "xx", "ja", "EN", "cmn-latn-pinyin"})
         EXPECT_FALSE(AlignmentLanguages::isKnown(QString::fromLatin1(unknown))) << unknown;
