@@ -27,15 +27,15 @@ using Clock = std::chrono::steady_clock;
 // 720 different sentences of ten to fourteen words, made by combination.
 QStringList lessonSentences(int count)
 {
-    const char* who[] = {"My neighbour", "The old teacher", "A young doctor", "Our captain",
-                         "The baker", "Her cousin", "The new student", "A tired farmer",
-                         "The pilot", "His grandmother", "The mayor", "A quiet painter"};
-    const char* did[] = {"carried", "painted", "repaired", "described", "found", "sold",
-                         "opened", "cleaned", "borrowed", "measured"};
-    const char* what[] = {"a wooden boat", "the broken clock", "three heavy boxes",
-                          "an enormous map", "the red bicycle", "a basket of apples",
+    const char* who[] = {"My neighbour", "The old teacher", "A young doctor",  "Our captain",
+                         "The baker",    "Her cousin",      "The new student", "A tired farmer",
+                         "The pilot",    "His grandmother", "The mayor",       "A quiet painter"};
+    const char* did[] = {"carried", "painted", "repaired", "described", "found",
+                         "sold",    "opened",  "cleaned",  "borrowed",  "measured"};
+    const char* what[] = {"a wooden boat",     "the broken clock", "three heavy boxes",
+                          "an enormous map",   "the red bicycle",  "a basket of apples",
                           "the kitchen window"};
-    const char* where[] = {"near the harbour", "behind the station", "in the village square",
+    const char* where[] = {"near the harbour", "behind the station",     "in the village square",
                            "beside the river", "at the top of the hill", "inside the museum"};
     const char* when[] = {"early on Monday morning.", "before the storm arrived.",
                           "after a long lunch.", "during the summer holidays.",
@@ -63,7 +63,8 @@ std::string makeLesson(const std::string& dir, const QStringList& sentences,
         return audio;
     QString ssml = QStringLiteral("<speak>");
     for (qsizetype i = 0; i < sentences.size(); ++i)
-        ssml += sentences[i] + QStringLiteral("<break time=\"%1ms\"/>").arg(300 + (i * 7 % 10) * 100);
+        ssml +=
+            sentences[i] + QStringLiteral("<break time=\"%1ms\"/>").arg(300 + (i * 7 % 10) * 100);
     ssml += QStringLiteral("</speak>");
     QFile ssmlFile(QString::fromStdString(dir + "/" + name + ".ssml"));
     if (ssmlFile.open(QIODevice::WriteOnly))
@@ -74,7 +75,8 @@ std::string makeLesson(const std::string& dir, const QStringList& sentences,
     Bench::shell("ffmpeg -nostdin -v error -y -i '" + dir + "/" + name +
                  ".wav' -f lavfi -i 'anoisesrc=r=22050:a=0.01:c=pink:seed=7' -filter_complex "
                  "'[0:a][1:a]amix=inputs=2:duration=first:normalize=0' -ar 44100 -ac 1 "
-                 "-c:a libmp3lame -b:a 128k '" + audio + "'");
+                 "-c:a libmp3lame -b:a 128k '" +
+                 audio + "'");
     return audio;
 }
 

@@ -107,8 +107,9 @@ QList<AlignmentLanguage> available()
         if (usable(e))
             out.append({QLatin1String(e.code), QString::fromUtf8(e.name)});
     }
-    std::sort(out.begin(), out.end(),
-              [](const AlignmentLanguage& a, const AlignmentLanguage& b) { return a.name < b.name; });
+    std::sort(out.begin(), out.end(), [](const AlignmentLanguage& a, const AlignmentLanguage& b) {
+        return a.name < b.name;
+    });
     return out;
 }
 
@@ -138,8 +139,8 @@ QString guess(const QString& text, const QString& interfaceLanguage)
     }
     // Kana among Han characters is Japanese, which no voice reads well; the
     // Han characters are still best read as Mandarin.
-    letters[QChar::Script_Han] += letters.value(QChar::Script_Hiragana) +
-                                  letters.value(QChar::Script_Katakana);
+    letters[QChar::Script_Han] +=
+        letters.value(QChar::Script_Hiragana) + letters.value(QChar::Script_Katakana);
     QChar::Script best = QChar::Script_Latin;
     qsizetype most = 0;
     for (const auto& [script, fallback] : kScriptDefaults) {
@@ -155,8 +156,7 @@ QString guess(const QString& text, const QString& interfaceLanguage)
             return QLatin1String(fallback);
     }
     const QList<AlignmentLanguage> all = available();
-    return isKnown(QStringLiteral("en")) || all.isEmpty() ? QStringLiteral("en")
-                                                          : all.first().code;
+    return isKnown(QStringLiteral("en")) || all.isEmpty() ? QStringLiteral("en") : all.first().code;
 }
 
 } // namespace AlignmentLanguages

@@ -57,9 +57,8 @@ std::size_t BandedWarp::decisionBytes(std::size_t rowCount, int halfWidth)
 }
 
 std::optional<BandedWarp::Path> BandedWarp::align(const std::vector<float>& rows,
-                                                  const std::vector<float>& columns,
-                                                  int dimensions, int halfWidth,
-                                                  const std::atomic<bool>* cancel,
+                                                  const std::vector<float>& columns, int dimensions,
+                                                  int halfWidth, const std::atomic<bool>* cancel,
                                                   const std::function<void(double)>& progress,
                                                   QString* error)
 {
@@ -103,8 +102,8 @@ std::optional<BandedWarp::Path> BandedWarp::align(const std::vector<float>& rows
         const float* row = &rows[i * std::size_t(dimensions)];
         for (long j = begin; j < end; ++j) {
             const std::size_t offset = std::size_t(j - first);
-            const float cost = distance(row, &columns[std::size_t(j) * std::size_t(dimensions)],
-                                        dimensions);
+            const float cost =
+                distance(row, &columns[std::size_t(j) * std::size_t(dimensions)], dimensions);
             if (i == 0 && j == 0) {
                 current[offset] = cost;
                 continue;

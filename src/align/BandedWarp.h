@@ -32,8 +32,7 @@ public:
     static std::optional<Path> align(const std::vector<float>& rows,
                                      const std::vector<float>& columns, int dimensions,
                                      int halfWidth, const std::atomic<bool>* cancel,
-                                     const std::function<void(double)>& progress,
-                                     QString* error);
+                                     const std::function<void(double)>& progress, QString* error);
 
     // Bytes the path-back decisions of a warp of this size take.
     static std::size_t decisionBytes(std::size_t rowCount, int halfWidth);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "align/Mfcc.h"
 
-#include <fftw3.h>
-
 #include <algorithm>
 #include <cmath>
+#include <fftw3.h>
 #include <mutex>
 #include <numbers>
 
@@ -34,16 +33,15 @@ float melToHz(float mel)
 
 } // namespace
 
-Mfcc::Mfcc(int sampleRate)
-    : m_window(sampleRate * 25 / 1000), m_hop(sampleRate / 100), m_fftSize(1)
+Mfcc::Mfcc(int sampleRate) : m_window(sampleRate * 25 / 1000), m_hop(sampleRate / 100), m_fftSize(1)
 {
     while (m_fftSize < m_window)
         m_fftSize *= 2;
     m_ring.assign(std::size_t(m_window), 0.0f);
     m_hamming.resize(std::size_t(m_window));
     for (int i = 0; i < m_window; ++i)
-        m_hamming[std::size_t(i)] =
-            0.54f - 0.46f * std::cos(2.0f * std::numbers::pi_v<float> * float(i) / float(m_window - 1));
+        m_hamming[std::size_t(i)] = 0.54f - 0.46f * std::cos(2.0f * std::numbers::pi_v<float> *
+                                                             float(i) / float(m_window - 1));
     m_input.assign(std::size_t(m_fftSize), 0.0f);
     m_spectrum.assign(std::size_t(m_fftSize + 2), 0.0f);
     const int bins = m_fftSize / 2 + 1;
@@ -79,9 +77,9 @@ Mfcc::Mfcc(int sampleRate)
     m_logEnergies.resize(kBands);
 
     std::lock_guard guard(plannerLock());
-    m_plan = fftwf_plan_dft_r2c_1d(m_fftSize, m_input.data(),
-                                   reinterpret_cast<fftwf_complex*>(m_spectrum.data()),
-                                   FFTW_ESTIMATE);
+    m_plan =
+        fftwf_plan_dft_r2c_1d(m_fftSize, m_input.data(),
+                              reinterpret_cast<fftwf_complex*>(m_spectrum.data()), FFTW_ESTIMATE);
 }
 
 Mfcc::~Mfcc()

@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-PauseSnapper::PauseSnapper(const QList<float>& loudness, double duration)
-    : m_speechEnd(duration)
+PauseSnapper::PauseSnapper(const QList<float>& loudness, double duration) : m_speechEnd(duration)
 {
     if (loudness.isEmpty())
         return;
@@ -17,8 +16,8 @@ PauseSnapper::PauseSnapper(const QList<float>& loudness, double duration)
     if (stats.max < 1e-4f)
         return;
     constexpr int kMediumSensitivity = 1;
-    const float threshold = Segmentation::adaptiveThreshold(stats.average, stats.stdDev, stats.max,
-                                                            kMediumSensitivity);
+    const float threshold =
+        Segmentation::adaptiveThreshold(stats.average, stats.stdDev, stats.max, kMediumSensitivity);
     const qsizetype n = loudness.size();
     const auto shortest = qsizetype(std::lround(kShortestPause / kFrameSeconds));
     qsizetype firstLoud = -1, lastLoud = -1;

@@ -13,10 +13,10 @@
 // kept, so an hour-long lesson costs its features, not its sound.
 struct RecordingFeatures
 {
-    std::vector<float> mfcc; // Mfcc::kCoefficients per frame
-    int hop = 0;             // samples between MFCC frames
-    QList<float> loudness;   // RMS of every 20 ms
-    double duration = 0.0;   // seconds decoded
+    std::vector<float> mfcc;     // Mfcc::kCoefficients per frame
+    int hop = 0;                 // samples between MFCC frames
+    QList<float> loudness;       // RMS of every 20 ms
+    double duration = 0.0;       // seconds decoded
     double featureSeconds = 0.0; // of the pass, the time spent on features
 
     // Reads `path`. Nothing, with `error` set to one line, when the file

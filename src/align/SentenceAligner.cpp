@@ -177,12 +177,10 @@ private:
 
 } // namespace
 
-std::optional<AlignedSentences> SentenceAligner::align(const QString& audioPath,
-                                                       const QStringList& sentences,
-                                                       const QString& language,
-                                                       const Progress& progress,
-                                                       const std::atomic<bool>* cancel,
-                                                       QString* error, Timing* timing)
+std::optional<AlignedSentences>
+SentenceAligner::align(const QString& audioPath, const QStringList& sentences,
+                       const QString& language, const Progress& progress,
+                       const std::atomic<bool>* cancel, QString* error, Timing* timing)
 {
     auto fail = [error](const QString& message) -> std::optional<AlignedSentences> {
         if (error)
@@ -267,8 +265,8 @@ std::optional<AlignedSentences> SentenceAligner::align(const QString& audioPath,
 
     const StepClock recordingClock{recording.hop};
     const StepClock synthesisClock{stream.hop()};
-    const int halfWidth = int(std::ceil(kBandHalfSeconds / (recordingClock.timeOf(1) -
-                                                            recordingClock.timeOf(0))));
+    const int halfWidth =
+        int(std::ceil(kBandHalfSeconds / (recordingClock.timeOf(1) - recordingClock.timeOf(0))));
     const Clock::time_point warpStart = Clock::now();
     QString warpError;
     const std::optional<BandedWarp::Path> path = BandedWarp::align(
@@ -296,10 +294,9 @@ std::optional<AlignedSentences> SentenceAligner::align(const QString& audioPath,
         } else {
             const int ending = synthesisClock.stepAt(stream.speechEnd[std::size_t(k - 1)], steps);
             const int starting = synthesisClock.stepAt(stream.speechStart[std::size_t(k)], steps);
-            const double estimate =
-                (recordingClock.timeOf(path->lastRow[std::size_t(ending)]) +
-                 recordingClock.timeOf(path->firstRow[std::size_t(starting)])) /
-                2.0;
+            const double estimate = (recordingClock.timeOf(path->lastRow[std::size_t(ending)]) +
+                                     recordingClock.timeOf(path->firstRow[std::size_t(starting)])) /
+                                    2.0;
             const PauseSnapper::Snapped snapped = snapper.snap(estimate);
             // Never before the sentence in front: a sentence the recording
             // lacks is squeezed to nothing rather than reordered.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "align/SpeechSynthesizer.h"
 
-#include <espeak-ng/speak_lib.h>
 #include <cstring>
+#include <espeak-ng/speak_lib.h>
 #include <mutex>
 
 namespace {
@@ -95,9 +95,9 @@ bool SpeechSynthesizer::speak(const QStringList& sentences, const QString& voice
         if (cancel && cancel->load(std::memory_order_relaxed))
             return fail(QStringLiteral("Cancelled"));
         const QByteArray text = sentences[i].toUtf8();
-        const espeak_ERROR rc = espeak_Synth(text.constData(), size_t(text.size()) + 1, 0,
-                                             POS_CHARACTER, 0, espeakCHARS_UTF8 | espeakENDPAUSE, nullptr,
-                                             nullptr);
+        const espeak_ERROR rc =
+            espeak_Synth(text.constData(), size_t(text.size()) + 1, 0, POS_CHARACTER, 0,
+                         espeakCHARS_UTF8 | espeakENDPAUSE, nullptr, nullptr);
         if (run.stopped)
             return fail(QStringLiteral("Cancelled"));
         if (rc != EE_OK)

@@ -3,10 +3,11 @@
 // language, and a text's script picks one.
 
 #include "align/AlignmentLanguages.h"
+
 #include "align/SpeechSynthesizer.h"
 
-#include <QHash>
 #include <QFileInfo>
+#include <QHash>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -95,11 +96,11 @@ TEST(AlignmentLanguages, EveryOfferedVoiceReadsItsOwnLanguageNumbersIncluded)
         }
         EXPECT_FALSE(language.name.isEmpty());
         ASSERT_TRUE(samples.contains(language.code)) << "every offered language was checked";
-        const QString read = phonemes(AlignmentLanguages::voice(language.code),
-                                      samples.value(language.code));
+        const QString read =
+            phonemes(AlignmentLanguages::voice(language.code), samples.value(language.code));
         EXPECT_FALSE(read.isEmpty());
-        EXPECT_FALSE(read.contains(u'(')) << "fell back on another language: "
-                                          << read.toStdString();
+        EXPECT_FALSE(read.contains(u'('))
+            << "fell back on another language: " << read.toStdString();
     }
     // Mandarin's number is read in Mandarin (shi2 er4), never as English digits.
     const QString mandarin = phonemes(AlignmentLanguages::voice("cmn"), "12点");

@@ -50,14 +50,14 @@ TEST(PauseSnapper, FindsPausesOfAFifthOfASecondAndSnapsToTheNearest)
         double time;
         bool uncertain;
     } cases[] = {
-        {2.6, 2.6, false},   // inside: to the middle
-        {2.2, 2.6, true},    // 0.3 s before the pause, 0.4 s from its middle
-        {2.4, 2.6, false},   // 0.1 s before it
-        {3.25, 2.6, true},   // 0.55 s after it: still found, far
-        {3.4, 3.4, true},    // 0.7 s after it: none near, left where it was
-        {4.8, 4.8, true},    // in the short quiet: no pause there
-        {6.6, 7.38, true},   // 0.28 s before the long pause: its middle is far
-        {7.3, 7.38, false},  // inside the long pause
+        {2.6, 2.6, false},  // inside: to the middle
+        {2.2, 2.6, true},   // 0.3 s before the pause, 0.4 s from its middle
+        {2.4, 2.6, false},  // 0.1 s before it
+        {3.25, 2.6, true},  // 0.55 s after it: still found, far
+        {3.4, 3.4, true},   // 0.7 s after it: none near, left where it was
+        {4.8, 4.8, true},   // in the short quiet: no pause there
+        {6.6, 7.38, true},  // 0.28 s before the long pause: its middle is far
+        {7.3, 7.38, false}, // inside the long pause
     };
     for (const auto& c : cases) {
         const PauseSnapper::Snapped s = snapper.snap(c.estimate);

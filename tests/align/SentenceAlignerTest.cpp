@@ -4,6 +4,7 @@
 // noise laid over), on texts that do not quite match, and on bad input.
 
 #include "align/SentenceAligner.h"
+
 #include "support/TestSupport.h"
 
 #include <QFile>
@@ -92,8 +93,8 @@ TEST_P(ReadLesson, EveryBoundaryLandsInItsPause)
 
     QList<double> reported;
     QString error;
-    const auto result = align(l.audio, l.sentences, language, &error,
-                              [&](double f) { reported.append(f); });
+    const auto result =
+        align(l.audio, l.sentences, language, &error, [&](double f) { reported.append(f); });
     ASSERT_TRUE(result) << error.toStdString();
     expectWellFormed(*result, l.sentences, l.pauses.last().end + 60.0);
 
@@ -227,7 +228,8 @@ TEST(SentenceAligner, MusicAndTheWrongLanguageAreFlagged)
 {
     const Lesson french = lesson("fr");
     QString error;
-    const auto music = align(fixture("lessons/music.wav"), french.sentences.mid(0, 6), "fr", &error);
+    const auto music =
+        align(fixture("lessons/music.wav"), french.sentences.mid(0, 6), "fr", &error);
     if (music) {
         expectWellFormed(*music, french.sentences.mid(0, 6), 20.0);
         for (qsizetype k = 1; k < music->size(); ++k)
