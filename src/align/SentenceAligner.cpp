@@ -301,7 +301,7 @@ SentenceAligner::align(const QString& audioPath, const QStringList& sentences,
             // Never before the sentence in front: a sentence the recording
             // lacks is squeezed to nothing rather than reordered.
             sentence.start = std::clamp(snapped.time, previous, snapper.speechEnd());
-            sentence.uncertain = snapped.uncertain;
+            sentence.uncertain = snapped.uncertain || sentence.start != snapped.time;
             out.last().end = sentence.start;
         }
         previous = sentence.start;

@@ -34,9 +34,11 @@ public:
 
     // Thread-safe to call from a worker thread; returns std::nullopt with
     // *error set (one line) on failure or cancel ("Cancelled"). `language`
-    // is a code AlignmentLanguages knows. Progress is reported on the calling
-    // thread; the cancel flag takes effect within a fraction of a second in
-    // every phase.
+    // is a code AlignmentLanguages knows. One result per sentence, trimmed;
+    // blank ones are left out. The first starts at the first sound (0.1 s
+    // before it), each ends where the next starts, the last at the end of
+    // the last sound. Progress is reported on the calling thread; the cancel
+    // flag takes effect within a fraction of a second in every phase.
     static std::optional<AlignedSentences>
     align(const QString& audioPath, const QStringList& sentences, const QString& language,
           const Progress& progress = {}, const std::atomic<bool>* cancel = nullptr,

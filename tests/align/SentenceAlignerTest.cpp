@@ -191,7 +191,7 @@ TEST(SentenceAligner, BadInputGetsAOneLineReason)
         QString audio;
         QStringList sentences;
         QString language;
-        QString reason; // part of the message
+        QString reason; // found in the message
     } cases[] = {
         {l.audio, {}, "fr", "no sentence"},
         {l.audio, {" ", "\n\t"}, "fr", "no sentence"},
