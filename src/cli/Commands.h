@@ -20,5 +20,6 @@ int parseLrc(const QStringList& args);
 int identity(const QStringList& args);
 int play(const QStringList& args);
 int check(const QStringList& args);
+int align(const QStringList& args);
 
 } // namespace Cli

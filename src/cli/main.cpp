@@ -28,6 +28,8 @@ const Command kCommands[] = {
     {"play", "play an audio file, or one segment of it, through the sound device", Cli::play},
     {"check", "check typed text against a reference text; print the marks and score as JSON",
      Cli::check},
+    {"align", "place a text's sentences on the recording that reads it; print them as JSON",
+     Cli::align},
 };
 
 void printUsage(FILE* to)

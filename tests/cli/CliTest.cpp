@@ -334,3 +334,45 @@ TEST_F(Cli, CheckRefusesBadOptionsInOneLine)
         EXPECT_TRUE(r.err.startsWith("kelmora-cli: ")) << r.err.constData();
     }
 }
+
+TEST_F(Cli, AlignPrintsTheSentencesWithTheirTimes)
+{
+    // A Mandarin text: the language is guessed from its script, whatever the
+    // system's own.
+    const Result r = run({"align", fixture("lessons/cmn.wav"), fixture("lessons/cmn.txt")});
+    ASSERT_EQ(r.exitCode, 0) << r.err.constData();
+    const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+    EXPECT_EQ(o.keys(), (QStringList{"language", "sentences"}));
+    EXPECT_EQ(o.value("language").toString(), "cmn");
+    const QJsonArray sentences = o.value("sentences").toArray();
+    ASSERT_EQ(sentences.size(), 25);
+    const QJsonObject first = sentences.first().toObject();
+    EXPECT_EQ(first.value("text").toString(), QString::fromUtf8("大家早上好，欢迎回来。"));
+    for (const char* key : {"start", "end"})
+        EXPECT_TRUE(first.value(key).isDouble()) << key;
+    EXPECT_TRUE(first.value("uncertain").isBool());
+    EXPECT_TRUE(r.out.contains("\n  \"language\": \"cmn\",\n  \"sentences\": ["));
+
+    QTemporaryDir dir;
+    const QString blank = dir.filePath("blank.txt");
+    TestSupport::writeFile(blank, " \n\n");
+    const QString text = fixture("lessons/en.txt");
+    const struct
+    {
+        QStringList args;
+        QByteArray reason;
+    } failures[] = {
+        {{fixture("lessons/en.flac"), text, "--language", "xx"}, "\"xx\""},
+        {{fixture("text.mp3"), text, "--language", "en"}, "text.mp3"},
+        {{fixture("missing.mp3"), text}, "missing.mp3"},
+        {{fixture("lessons/en.flac"), blank}, "blank.txt"},
+    };
+    for (const auto& f : failures) {
+        const Result bad = run(QStringList{"align"} + f.args);
+        EXPECT_EQ(bad.exitCode, 1) << bad.err.constData();
+        EXPECT_TRUE(bad.err.startsWith("kelmora-cli: ")) << bad.err.constData();
+        EXPECT_TRUE(bad.err.contains(f.reason)) << bad.err.constData();
+        EXPECT_EQ(bad.err.trimmed().count('\n'), 0) << bad.err.constData();
+    }
+    EXPECT_EQ(run({"align", fixture("lessons/en.flac")}).exitCode, 2);
+}
