@@ -89,11 +89,21 @@ start_window_manager() {
   fail "openbox did not start: $(cat "$work/openbox.log")"
 }
 
-# screenshot NAME: the whole screen into SHOTS/NAME.png.
+# screenshot NAME [WINDOW]: the whole screen into SHOTS/NAME.png. Without a
+# window manager the root picture leaves a second window black, so WINDOW's
+# own picture is laid over it at its place.
 screenshot() {
   mkdir -p "$shots"
   xwd -root -silent -display "$DISPLAY" > "$work/screen.xwd"
-  ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/$1.png"
+  if [ -z "${2:-}" ]; then
+    ffmpeg -nostdin -v error -y -i "$work/screen.xwd" "$shots/$1.png"
+    return
+  fi
+  local X Y WIDTH HEIGHT SCREEN WINDOW
+  eval "$(xdotool getwindowgeometry --shell "$2")"
+  xwd -id "$2" -silent -display "$DISPLAY" > "$work/window.xwd"
+  ffmpeg -nostdin -v error -y -i "$work/screen.xwd" -i "$work/window.xwd" \
+    -filter_complex "overlay=$X:$Y" "$shots/$1.png"
 }
 
 # screenshot_window NAME ID: one window into SHOTS/NAME.png. A dialog over the

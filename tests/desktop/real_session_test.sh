@@ -4,7 +4,8 @@
 # private D-Bus session), with real key presses while the focus stays in the
 # dictation row: type a sentence, Down to the next segment, type again, Down
 # through the last row back to row 0, Return to pause and resume, Ctrl+R to
-# leave and re-enter repeat mode. The first move saves the transcript in the
+# leave and re-enter repeat mode, then the play speed changed from the
+# preferences while the segment repeats. The first move saves the transcript in the
 # background; after closing with "Don't Save" and opening the same lesson
 # again the typed rows come back from it.
 #
@@ -94,6 +95,7 @@ until_status "| Play | Repeat"
 # middle of the speech or between one repetition and the next.
 xdotool key --clearmodifiers ctrl+comma
 probe wait-window Preferences > /dev/null || fail "Ctrl+, opened no preferences window"
+prefs="$(xdotool search --sync --name '^Preferences$' | head -n1)"
 at="$(probe centre "Play speed")" || fail "no play speed field"
 # shellcheck disable=SC2086
 xdotool mousemove --sync $at click 1
@@ -108,7 +110,7 @@ speed_round() {
   press Up 27
   until_equal "play speed" "3.0×" probe text "Play speed"
   until_status "| Play | Repeat"
-  [ "$1" = 1 ] && screenshot real-session-rate
+  [ "$1" = 1 ] && screenshot real-session-rate "$prefs"
   press Down 20
   until_equal "play speed" "1.0×" probe text "Play speed"
   to=$(stat -c %s "$work/capture.raw")
