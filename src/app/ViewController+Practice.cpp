@@ -120,6 +120,9 @@ void ViewController::reportPracticeFault(const char* text, const QString& error)
 
 void ViewController::practiceTick()
 {
+    // Past midnight more sentences are due, and the hard ones are counted anew.
+    if (m_reference && !isProcessing() && practiceDay() != m_practiceViewDay)
+        refreshPracticeView();
     // Only a lesson being checked against a reference is practised; without
     // one nothing is recorded and the store stays as it was.
     if (!m_reference || isProcessing() || m_segmentsShown == 0 || !isActiveWindow())
@@ -154,6 +157,7 @@ void ViewController::practiceChanged()
 
 void ViewController::refreshPracticeView()
 {
+    m_practiceViewDay = practiceDay();
     refreshDueCount();
     if (m_practisingHard) {
         if (hardSegmentsNow().isEmpty())

@@ -442,6 +442,7 @@ private:
     int m_secondsSinceSave = 0;
     std::shared_ptr<Timer> m_practiceTick;
     std::function<QDate()> m_practiceDay;
+    QDate m_practiceViewDay; // the day the due count and hard sentences were counted for
     bool m_practisingHard = false;
 
     // The typing journal of the lesson shown.

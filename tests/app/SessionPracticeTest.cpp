@@ -182,7 +182,9 @@ TEST_F(SessionPractice, ChecksHintsAndActiveTimeAreKeptBesideTheTranscriptAndSho
 
 TEST_F(SessionPractice, HardSentencesAreSteppedThroughInOrderWrappingAndLeaveWithTheCommand)
 {
+    VirtualClock clock;
     WindowHarness h;
+    h.setClock(clock);
     // 1 scored low, 3 due for its first review, 4 below the threshold; 2
     // scored well today and 0 was never checked.
     PracticeRecord record;
@@ -218,6 +220,17 @@ TEST_F(SessionPractice, HardSentencesAreSteppedThroughInOrderWrappingAndLeaveWit
     QTest::keyClicks(QApplication::focusWidget(), "Sentence 4 is here.");
     press(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_TRUE(h.session().statusText().endsWith(" | Hard sentences: 2 left"));
+    EXPECT_EQ(h.session().checkBar()->noteText(), "");
+
+    // Past midnight, with the window left open: today's first checks are
+    // due tomorrow, and the bar says so within a second.
+    QDate day = kToday;
+    h.session().setPracticeDaySource([&day] { return day; });
+    day = kToday.addDays(1);
+    clock.advance(1);
+    EXPECT_EQ(h.session().checkBar()->noteText(), "3 due for review");
+    day = kToday;
+    clock.advance(1);
     EXPECT_EQ(h.session().checkBar()->noteText(), "");
     press(Qt::Key_Down);
     ASSERT_TRUE(reachesRow(4));
