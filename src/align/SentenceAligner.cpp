@@ -15,6 +15,8 @@
 #include <cstdint>
 #include <mutex>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -32,6 +34,10 @@ constexpr int kPooling = 4;
 // Silence put between the synthesised sentences: about the pause a reader
 // leaves, so that the reading's timeline runs like the recording's.
 constexpr int kGapSamples = kRate / 2;
+// Above this, the text's sound finds its place in the recording no better
+// than beside it (see pathContrast()): midway between the read lessons
+// (0.65 at most) and other languages or music (0.8 at least).
+constexpr double kMismatchContrast = 0.73;
 // A sentence's synthesis starts at its first sample above this share of its
 // loudest and ends after its last.
 constexpr double kSoundShare = 0.02;
@@ -124,6 +130,47 @@ struct StepClock
         return int(std::clamp(step, 0L, long(steps) - 1));
     }
 };
+
+// How sharply the warp's path picks its rows out of their neighbourhood,
+// sentence by sentence: the mean distance of each of a sentence's sound
+// steps to the recording row the path gives it, over the mean distance to
+// rows 0.4 to 1 s before and after. The broad spectral shape (coefficients
+// 1 to 3) is all that two voices share: a text read by another voice than
+// the recording's still picks its rows sharply (median about 0.65 and
+// below on the read lessons), while a text in another language than the
+// recording's, or music, fits its neighbours about as well (0.8 and above).
+// The median over sentences lets a sentence or two that the recording
+// lacks pass.
+double pathContrast(const std::vector<float>& rows, const std::vector<float>& columns,
+                    const BandedWarp::Path& path, const std::vector<std::pair<int, int>>& sentences)
+{
+    constexpr int kDimensions = Mfcc::kCoefficients;
+    const int rowCount = int(rows.size() / kDimensions);
+    auto distance = [&](int row, int column) {
+        const float* a = &rows[std::size_t(std::clamp(row, 0, rowCount - 1)) * kDimensions];
+        const float* b = &columns[std::size_t(column) * kDimensions];
+        float sum = 0.0f;
+        for (int d = 1; d <= 3; ++d)
+            sum += (a[d] - b[d]) * (a[d] - b[d]);
+        return double(std::sqrt(sum));
+    };
+    std::vector<double> ratios;
+    for (const auto& [first, last] : sentences) {
+        double onPath = 0.0, beside = 0.0;
+        for (int column = first; column <= last; ++column) {
+            const int row =
+                (path.firstRow[std::size_t(column)] + path.lastRow[std::size_t(column)]) / 2;
+            onPath += distance(row, column);
+            for (const int offset : {10, 15, 20, 25}) // steps of 40 ms
+                beside += (distance(row - offset, column) + distance(row + offset, column)) / 8.0;
+        }
+        // Frames all alike (digital silence): no row stands out.
+        ratios.push_back(beside > 0.0 ? onPath / beside : 1.0);
+    }
+    std::nth_element(ratios.begin(), ratios.begin() + std::ptrdiff_t(ratios.size() / 2),
+                     ratios.end());
+    return ratios[ratios.size() / 2];
+}
 
 // Runs the recording's pass on a thread of its own.
 class RecordingReader
@@ -278,11 +325,28 @@ SentenceAligner::align(const QString& audioPath, const QStringList& sentences,
     if (!path)
         return fail(warpError);
 
+    // A text in another language than the recording's, or a recording of
+    // music, still warps into a well-formed result whose boundaries mostly
+    // land in pauses, only on the wrong words. Rather than hand that over
+    // with every boundary flagged, which leaves the learner checking dozens
+    // of sentences by hand to learn what one line tells at once, the run
+    // stops and says what to fix: the text or its language.
+    const PauseSnapper snapper(recording.loudness, recording.duration);
+    const int steps = int(columns.size() / Mfcc::kCoefficients);
+    if (snapper.hasSpeech()) {
+        std::vector<std::pair<int, int>> sounds;
+        for (std::size_t k = 0; k < std::size_t(texts.size()); ++k) {
+            sounds.emplace_back(synthesisClock.stepAt(stream.speechStart[k], steps),
+                                synthesisClock.stepAt(stream.speechEnd[k], steps));
+        }
+        if (pathContrast(rows, columns, *path, sounds) > kMismatchContrast)
+            return fail(
+                QStringLiteral("The text does not match the recording (is the language right?)"));
+    }
+
     // Each boundary of the reading, carried over: the end of one sentence's
     // sound and the start of the next's, each where the path takes it, and
     // the middle of the two, settled into the recording's nearest pause.
-    const PauseSnapper snapper(recording.loudness, recording.duration);
-    const int steps = int(columns.size() / Mfcc::kCoefficients);
     AlignedSentences out;
     double previous = snapper.speechStart();
     for (qsizetype k = 0; k < texts.size(); ++k) {
