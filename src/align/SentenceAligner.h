@@ -38,8 +38,9 @@ public:
     // blank ones are left out. The first starts at the first sound (0.1 s
     // before it), each ends where the next starts, the last at the end of
     // the last sound. A text whose sound matches the recording no better
-    // than chance (another language, music) fails with a reason. Progress is reported on the
-    // calling thread; the cancel flag takes effect within a fraction of a second in every phase.
+    // than chance (another language, music) has every boundary uncertain.
+    // Progress is reported on the calling thread; the cancel flag takes
+    // effect within a fraction of a second in every phase.
     static std::optional<AlignedSentences>
     align(const QString& audioPath, const QStringList& sentences, const QString& language,
           const Progress& progress = {}, const std::atomic<bool>* cancel = nullptr,
