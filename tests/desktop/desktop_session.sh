@@ -20,7 +20,8 @@ probe() { /usr/bin/python3 "$here/atspi_probe.py" "$@"; }
 until_equal() {
   local what="$1" expected="$2" got=""
   shift 2
-  for _ in $(seq 25); do
+  # Up to ten seconds: a machine busy with a build starts the window slowly.
+  for _ in $(seq 50); do
     got="$("$@" 2>/dev/null || true)"
     [ "$got" = "$expected" ] && { echo "$what: $got"; return 0; }
     sleep 0.2
