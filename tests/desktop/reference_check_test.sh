@@ -3,8 +3,9 @@
 # Checking typing against a reference text at a real desktop: the real kelmora
 # in Xvfb under a window manager with a PulseAudio null sink, driven by real
 # key presses. The lesson's text is attached through the File menu's file
-# panel, a sentence is typed with one typo and one word left out, Ctrl+Return
-# checks it, and the check bar is read through the accessibility bus.
+# panel (Escape on the language question keeps it as it is), a sentence is
+# typed with one typo and one word left out, Ctrl+Return checks it, and the
+# check bar is read through the accessibility bus.
 #
 # Usage: reference_check_test.sh KELMORA FIXTURE SCREENSHOT_DIR
 set -euo pipefail
@@ -36,6 +37,13 @@ xdotool key Return
 until_equal "the check bar once attached" "Press Ctrl+Return to check this segment." \
   probe described Check
 echo "attached $(basename "$reference") through the File menu"
+
+# A plain text brings the question of its language; Escape is Don't Align,
+# and the text is spread over the segments as it is.
+question="$(window_named "Align Reference Text")" || fail "no language question for a plain text"
+xdotool windowactivate --sync "$question"
+xdotool key Escape
+gone "Align Reference Text" || fail "Escape left the language question open"
 
 # Back in row 0: one typo, one word left out, then the Check key.
 xdotool windowactivate --sync "$main"
