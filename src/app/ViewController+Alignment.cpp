@@ -72,8 +72,14 @@ void ViewController::askAlignmentLanguage(const QString& language)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);
     m_alignQuestion = dialog;
-    // Answered, it is gone for the session though deleted only later.
-    connect(dialog, &QDialog::finished, this, [this] { m_alignQuestion.clear(); });
+    // Answered, it is gone for the session though deleted only later; the
+    // typing goes on where it was.
+    m_focusBeforeAligning = window()->focusWidget();
+    connect(dialog, &QDialog::finished, this, [this](int answer) {
+        m_alignQuestion.clear();
+        if (answer == QDialog::Rejected)
+            giveBackAlignmentFocus();
+    });
     // Only for the reference it was asked about; Don't Align changes nothing.
     connect(dialog, &QDialog::accepted, this,
             [this, dialog, lesson = m_currentAudioPath, read = m_referenceReads] {
@@ -109,6 +115,7 @@ void ViewController::alignReference(const QString& language)
         *cancel = true;
         m_alignCancel.reset();
         progress->close();
+        giveBackAlignmentFocus();
     });
     m_alignProgress = progress;
     progress->open();
@@ -148,6 +155,7 @@ void ViewController::referenceAligned(const std::optional<AlignedSentences>& sen
         m_alignProgress->disconnect(this);
         m_alignProgress->close();
     }
+    giveBackAlignmentFocus();
     if (!m_reference) // gone meanwhile; nothing to replace
         return;
     if (!sentences) {
@@ -186,4 +194,12 @@ void ViewController::stopAlignment()
     // Deleted rather than closed: neither answer may reach the session.
     delete m_alignQuestion.data();
     delete m_alignProgress.data();
+}
+
+void ViewController::giveBackAlignmentFocus()
+{
+    QWidget* before = m_focusBeforeAligning.data();
+    m_focusBeforeAligning.clear();
+    if (before && before->isVisible())
+        before->setFocus(Qt::OtherFocusReason);
 }

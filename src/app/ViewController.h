@@ -297,6 +297,8 @@ private:
                           const QString& language, const QString& error);
     // The question or the run for a reference no longer shown goes away.
     void stopAlignment();
+    // The widget that had the focus before the question takes it again.
+    void giveBackAlignmentFocus();
 
     // A save into the store ended: a failure puts up a notice that stays
     // until a later save succeeds.
@@ -443,6 +445,7 @@ private:
     QPointer<QDialog> m_alignQuestion;
     QPointer<QProgressDialog> m_alignProgress;
     std::shared_ptr<std::atomic<bool>> m_alignCancel;
+    QPointer<QWidget> m_focusBeforeAligning;
 
     // The content fingerprint of the lesson shown, and the sheet offering a
     // dictation found for it while it waits for an answer (nothing is saved
