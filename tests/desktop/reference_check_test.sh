@@ -3,7 +3,7 @@
 # Checking typing against a reference text at a real desktop: the real kelmora
 # in Xvfb under a window manager with a PulseAudio null sink, driven by real
 # key presses. The lesson's text is attached through the File menu's file
-# panel (Escape on the language question keeps it as it is), a sentence is
+# panel and aligned with Return on the language question, a sentence is
 # typed with one typo and one word left out, Ctrl+Return checks it, and the
 # check bar is read through the accessibility bus.
 #
@@ -38,12 +38,15 @@ until_equal "the check bar once attached" "Press Ctrl+Return to check this segme
   probe described Check
 echo "attached $(basename "$reference") through the File menu"
 
-# A plain text brings the question of its language; Escape is Don't Align,
-# and the text is spread over the segments as it is.
+# A plain text brings the question of its language, English guessed; Return
+# aligns its sentences on the recording behind a progress window of the same
+# title, gone once they are placed.
 question="$(window_named "Align Reference Text")" || fail "no language question for a plain text"
 xdotool windowactivate --sync "$question"
-xdotool key Escape
-gone "Align Reference Text" || fail "Escape left the language question open"
+xdotool key Return
+gone "Align Reference Text" || fail "the alignment did not end"
+grep -q "Aligned 5 sentences" "$work/kelmora.log" || fail "the five sentences were not aligned"
+echo "aligned the five sentences with Return"
 
 # Back in row 0: one typo, one word left out, then the Check key.
 xdotool windowactivate --sync "$main"
