@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Edit menu's commands for the cutting: undo and redo of its edits, split,
-// merge, the keyboard's way of moving a start and the cut at the reference's
-// sentences. The waveform strip's context menu offers split and merge too.
-// The View menu's bound command shows its keys the same way.
+// merge, the keyboard's way of moving a start, the cut at the reference's
+// sentences and placing them again. The waveform strip's context menu offers
+// split and merge too. The View menu's bound command shows its keys the same
+// way.
 
 #include "app/KeyDownMonitor.h"
 #include "app/MainWindowController.h"
 #include "app/ViewController.h"
 #include "localization/LocalizedString.h"
+#include "localization/AlignTexts.h"
 #include "localization/LocalizedTexts.h"
 #include "localization/SentenceCutTexts.h"
 #include "preferences/Keyboard.h"
@@ -69,6 +71,9 @@ void MainWindowController::setupEditMenu(QMenu* edit)
     m_cutAtSentencesItem =
         item("menuCutAtSentences", [session] { session->cutSegmentsAtSentences(); });
     m_cutAtSentencesItem->setText(LocalizedString(Texts::MenuCutAtSentences));
+    // A plain or aligned reference has sentences to place on the recording.
+    m_alignAgainItem = item("menuAlignAgain", [session] { session->alignReferenceAgain(); });
+    m_alignAgainItem->setText(LocalizedString(Texts::MenuAlignAgain));
     edit->addSeparator();
 
     // A right click in the strip offers what the play head is in.
@@ -107,6 +112,7 @@ void MainWindowController::updateEditMenu()
     m_mergeItem->setText(withKeys(LocalizedString(Texts::MenuMergeSegments),
                                   boundKeys(shortcuts, ShortcutAction::MergeSegments)));
     m_cutAtSentencesItem->setEnabled(m_viewController->canCutAtSentences());
+    m_alignAgainItem->setEnabled(m_viewController->canAlignReference());
 }
 
 void MainWindowController::updateViewMenu()

@@ -105,6 +105,7 @@ private:
     QAction* m_splitItem = nullptr;
     QAction* m_mergeItem = nullptr;
     QAction* m_cutAtSentencesItem = nullptr;
+    QAction* m_alignAgainItem = nullptr;
     QAction* m_hardSentencesItem = nullptr;
     QList<QAction*> m_lessonCommands;
     QList<QAction*> m_referenceCommands;

@@ -158,7 +158,11 @@ void ViewController::referenceFileRead(const QString& path, const QString& audio
     }
     qCInfo(lcReference, "Attached %s: %lld units", qUtf8Printable(name),
            qlonglong(reference->units().size()));
+    stopAlignment();
     setReference(reference);
+    // A text without times may have its sentences placed on the recording.
+    if (!reference->isTimed())
+        askAlignmentLanguage(QString());
 }
 
 void ViewController::removeReferenceText()
@@ -166,6 +170,7 @@ void ViewController::removeReferenceText()
     if (!m_reference)
         return;
     ++m_referenceReads;
+    stopAlignment();
     if (const std::optional<QString> identity = lessonIdentity()) {
         QString error;
         if (!ReferenceStore(m_documents).remove(*identity, &error))
@@ -177,6 +182,7 @@ void ViewController::removeReferenceText()
 void ViewController::loadLessonReference()
 {
     ++m_referenceReads;
+    stopAlignment();
     std::optional<ReferenceText> stored;
     if (const std::optional<QString> identity = lessonIdentity()) {
         QString error;

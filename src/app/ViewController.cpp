@@ -74,6 +74,9 @@ ViewController::~ViewController()
     // The stack empties itself as it goes, and says so; the window that
     // listens is already being torn down.
     m_cuttingEdits->disconnect();
+    // An alignment still running stops soon rather than at the exit.
+    if (m_alignCancel)
+        *m_alignCancel = true;
     savePracticeRecord();
     if (m_practiceTick)
         m_practiceTick->invalidate();

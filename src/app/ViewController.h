@@ -14,6 +14,7 @@
 #include <QSet>
 #include <QString>
 #include <QWidget>
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -26,9 +27,11 @@ class Defaults;
 class LoadingIndicator;
 class NotificationCenter;
 class QAction;
+class QDialog;
 class QGraphicsOpacityEffect;
 class QLabel;
 class QParallelAnimationGroup;
+class QProgressDialog;
 class QScrollArea;
 class QStatusBar;
 class QThreadPool;
@@ -157,6 +160,14 @@ public:
     bool hasReferenceText() const;
     // Checks the current segment's row against its part of the reference.
     void checkCurrentSegment();
+
+    // ---- Placing a plain reference's sentences (ViewController+Alignment.cpp) ----
+    // Whether the reference shown has sentences to place: a plain or an
+    // aligned one, and no alignment running.
+    bool canAlignReference() const;
+    // Edit → Align Again…: asks the language (the stored one first) and
+    // places the reference's sentences on the recording anew.
+    void alignReferenceAgain();
     // Shows the reference word after the last one typed right.
     void showNextWord();
 
@@ -276,6 +287,18 @@ private:
     void referenceFileRead(const QString& path, const QString& audioPath,
                            const std::optional<ReferenceText>& reference,
                            const ReferenceReadError& error);
+
+    // Placing a plain reference's sentences (ViewController+Alignment.cpp)
+    // Asks the lesson's language for the reference shown; "Align" runs it.
+    void askAlignmentLanguage(const QString& language);
+    // Runs the aligner on a worker behind a progress dialog with Cancel.
+    void alignReference(const QString& language);
+    void referenceAligned(const std::optional<AlignedSentences>& sentences,
+                          const QString& language, const QString& error);
+    // The question or the run for a reference no longer shown goes away.
+    void stopAlignment();
+    // The widget that had the focus before the question takes it again.
+    void giveBackAlignmentFocus();
 
     // A save into the store ended: a failure puts up a notice that stays
     // until a later save succeeds.
@@ -418,6 +441,11 @@ private:
     QSet<qint64> m_checkedRows;
     QHash<qint64, int> m_hints;
     quint64 m_referenceReads = 0; // drops a read that a newer one overtook
+    // The language question and the alignment running, with its cancel flag.
+    QPointer<QDialog> m_alignQuestion;
+    QPointer<QProgressDialog> m_alignProgress;
+    std::shared_ptr<std::atomic<bool>> m_alignCancel;
+    QPointer<QWidget> m_focusBeforeAligning;
 
     // The content fingerprint of the lesson shown, and the sheet offering a
     // dictation found for it while it waits for an answer (nothing is saved

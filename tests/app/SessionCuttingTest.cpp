@@ -264,6 +264,7 @@ TEST(SessionCutting, CutAtSentencesCarriesRowsByTheirMiddleAndMarksUncertainStar
     writeFile(plain, "Good morning everyone.\nSee you. Goodbye.\n");
     session.attachReferenceTextFrom(plain);
     ASSERT_TRUE(waitFor([&] { return session.hasReferenceText(); }));
+    ASSERT_TRUE(dontAlign());
     EXPECT_FALSE(command->isEnabled());
     session.cutSegmentsAtSentences();
     EXPECT_EQ(session.cuttingEdits()->count(), 0);

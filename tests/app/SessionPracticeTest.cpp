@@ -61,6 +61,7 @@ protected:
         writeFile(path, lines.join(u'\n').toUtf8());
         h.session().attachReferenceTextFrom(path);
         ASSERT_TRUE(waitFor([&] { return h.session().hasReferenceText(); }));
+        ASSERT_TRUE(dontAlign());
     }
 
     QString practicePath(WindowHarness& h)

@@ -19,12 +19,14 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QDialog>
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTest>
 #include <QTimer>
 
 WindowHarness::WindowHarness(const QString& language, const QString& dataHome)
@@ -163,4 +165,39 @@ AlertAnswerer::~AlertAnswerer() = default;
 bool AlertAnswerer::waitForAlerts(qsizetype count, int timeoutMs)
 {
     return waitFor([&] { return m_seen.size() >= count; }, timeoutMs);
+}
+
+namespace {
+
+QDialog* visibleQuestion()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("alignLanguageDialog") && widget->isVisible())
+            return qobject_cast<QDialog*>(widget);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QDialog* alignmentQuestion(int timeoutMs)
+{
+    waitFor([] { return visibleQuestion() != nullptr; }, timeoutMs);
+    return visibleQuestion();
+}
+
+bool dontAlign()
+{
+    QDialog* question = alignmentQuestion();
+    if (!question)
+        return false;
+    QPointer<QWidget> window =
+        question->parentWidget() ? question->parentWidget()->window() : nullptr;
+    QTest::keyClick(question, Qt::Key_Escape);
+    if (!waitFor([] { return visibleQuestion() == nullptr; }))
+        return false;
+    // Offscreen, no window manager gives the window back its activation.
+    if (window)
+        QApplication::setActiveWindow(window);
+    return true;
 }

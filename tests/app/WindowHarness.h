@@ -20,6 +20,7 @@ class LanguageBundle;
 class LanguageManager;
 class MainWindowController;
 class NotificationCenter;
+class QDialog;
 class QTimer;
 class TranscriptionManager;
 class ViewController;
@@ -108,3 +109,11 @@ private:
 
 // Runs the event loop until the condition holds or the time is up.
 bool waitFor(const std::function<bool()>& condition, int timeoutMs = 10000);
+
+// The question a plain reference text brings, which language to align it
+// in, once it shows; null when none came in time.
+QDialog* alignmentQuestion(int timeoutMs = 10000);
+// Answers that question "Don't Align" with Escape, as most tests of a plain
+// text do, and activates the window again; false when no question came or
+// it stayed.
+bool dontAlign();

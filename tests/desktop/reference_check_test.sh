@@ -3,8 +3,9 @@
 # Checking typing against a reference text at a real desktop: the real kelmora
 # in Xvfb under a window manager with a PulseAudio null sink, driven by real
 # key presses. The lesson's text is attached through the File menu's file
-# panel, a sentence is typed with one typo and one word left out, Ctrl+Return
-# checks it, and the check bar is read through the accessibility bus.
+# panel and aligned with Return on the language question, a sentence is
+# typed with one typo and one word left out, Ctrl+Return checks it, and the
+# check bar is read through the accessibility bus.
 #
 # Usage: reference_check_test.sh KELMORA FIXTURE SCREENSHOT_DIR
 set -euo pipefail
@@ -36,6 +37,16 @@ xdotool key Return
 until_equal "the check bar once attached" "Press Ctrl+Return to check this segment." \
   probe described Check
 echo "attached $(basename "$reference") through the File menu"
+
+# A plain text brings the question of its language, English guessed; Return
+# aligns its sentences on the recording behind a progress window of the same
+# title, gone once they are placed.
+question="$(window_named "Align Reference Text")" || fail "no language question for a plain text"
+xdotool windowactivate --sync "$question"
+xdotool key Return
+gone "Align Reference Text" || fail "the alignment did not end"
+grep -q "Aligned 5 sentences" "$work/kelmora.log" || fail "the five sentences were not aligned"
+echo "aligned the five sentences with Return"
 
 # Back in row 0: one typo, one word left out, then the Check key.
 xdotool windowactivate --sync "$main"

@@ -5,6 +5,7 @@
 #include "localization/LanguageBundle.h"
 #include "localization/LanguageManager.h"
 #include "localization/LocalizedTexts.h"
+#include "localization/AlignTexts.h"
 #include "localization/PracticeTexts.h"
 #include "localization/SentenceCutTexts.h"
 #include "preferences/Defaults.h"
@@ -89,7 +90,7 @@ QStringList placeholders(const QString& text)
     return found + numbered;
 }
 
-// Every list of texts in LocalizedTexts.h, PracticeTexts.h and SentenceCutTexts.h.
+// Every list of texts in LocalizedTexts.h, PracticeTexts.h, SentenceCutTexts.h and AlignTexts.h.
 QList<const char*> textList()
 {
     QList<const char*> texts(Texts::All.begin(), Texts::All.end());
@@ -106,6 +107,7 @@ QList<const char*> textList()
     texts.append(QList<const char*>(Texts::PracticeSettings.begin(), Texts::PracticeSettings.end()));
     texts.append(QList<const char*>(Texts::Practice.begin(), Texts::Practice.end()));
     texts.append(QList<const char*>(Texts::SentenceCutting.begin(), Texts::SentenceCutting.end()));
+    texts.append(QList<const char*>(Texts::Alignment.begin(), Texts::Alignment.end()));
     return texts;
 }
 

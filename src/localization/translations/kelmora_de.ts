@@ -975,5 +975,45 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
         <source>Uncertain segment starts: %@</source>
         <translation>Unsichere Abschnittsanfänge: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>&amp;Erneut ausrichten…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>Referenztext ausrichten</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora kann jeden Satz von „%@“ in der Aufnahme verorten. In welcher Sprache ist die Lektion?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>Nicht ausrichten</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>Die Sätze werden in der Aufnahme verortet…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>%d Sätze ausgerichtet, %d unsicher</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>Der Referenztext konnte nicht ausgerichtet werden</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ Der Referenztext bleibt, wie er war.</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,45 @@ If you have any questions, email me: support@kelmora.app.</translation>
         <source>Uncertain segment starts: %@</source>
         <translation>Uncertain segment starts: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>&amp;Align Again…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>Align Reference Text</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Align</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>Don’t Align</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>Placing the sentences on the recording…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>Aligned %d sentences, %d uncertain</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>The reference text could not be aligned</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ The reference text stays as it was.</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,45 @@ Si tienes alguna pregunta, escríbeme a: support@kelmora.app.</translation>
         <source>Uncertain segment starts: %@</source>
         <translation>Inicios de segmento dudosos: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>&amp;Alinear de nuevo…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>Alinear el texto de referencia</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora puede situar cada frase de «%@» en la grabación. ¿En qué idioma está la lección?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Alinear</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>No alinear</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>Situando las frases en la grabación…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>%d frases alineadas, %d inciertas</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>No se pudo alinear el texto de referencia</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ El texto de referencia se queda como estaba.</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,45 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
         <source>Uncertain segment starts: %@</source>
         <translation>Débuts de segment incertains : %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>&amp;Aligner à nouveau…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>Aligner le texte de référence</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora peut placer chaque phrase de « %@ » sur l’enregistrement. En quelle langue est la leçon ?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue :</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Aligner</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>Ne pas aligner</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>Placement des phrases sur l’enregistrement…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>%d phrases alignées, %d incertaines</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>Impossible d’aligner le texte de référence</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ Le texte de référence reste tel qu’il était.</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,45 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Uncertain segment starts: %@</source>
         <translation>不確かなセグメントの開始: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>もう一度整列(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>参照テキストの整列</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora は「%@」の各文を録音上に配置できます。レッスンの言語は何ですか?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>言語(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>整列</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>整列しない</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>文を録音上に配置しています…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>%d 文を整列、うち %d 文は不確か</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>参照テキストを整列できませんでした</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ 参照テキストは元のままです。</translation>
+    </message>
 </context>
 </TS>

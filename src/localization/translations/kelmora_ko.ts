@@ -975,5 +975,45 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Uncertain segment starts: %@</source>
         <translation>불확실한 구간 시작: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>다시 정렬(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>참조 텍스트 정렬</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora는 “%@”의 각 문장을 녹음 위에 배치할 수 있습니다. 레슨의 언어는 무엇입니까?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>언어(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>정렬</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>정렬 안 함</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>문장을 녹음 위에 배치하는 중…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>%d개 문장 정렬됨, %d개 불확실</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>참조 텍스트를 정렬할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ 참조 텍스트는 그대로 유지됩니다.</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,45 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Uncertain segment starts: %@</source>
         <translation>Неуверенные начала сегментов: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>&amp;Выровнять заново…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>Выравнивание текста-образца</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora может найти каждое предложение «%@» в записи. На каком языке урок?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Язык:</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Выровнять</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>Не выравнивать</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>Предложения размещаются на записи…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>Выровнено предложений: %d, неуверенных: %d</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>Не удалось выровнять текст-образец</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ Текст-образец остаётся прежним.</translation>
+    </message>
 </context>
 </TS>

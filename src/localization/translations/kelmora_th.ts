@@ -975,5 +975,45 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Uncertain segment starts: %@</source>
         <translation>จุดเริ่มช่วงที่ไม่แน่นอน: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>จัดแนวอีกครั้ง(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>จัดแนวข้อความอ้างอิง</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora สามารถวางแต่ละประโยคของ “%@” บนเสียงบันทึกได้ บทเรียนนี้เป็นภาษาอะไร</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>ภาษา(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>จัดแนว</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>ไม่จัดแนว</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>กำลังวางประโยคบนเสียงบันทึก…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>จัดแนวแล้ว %d ประโยค ไม่แน่นอน %d ประโยค</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>ไม่สามารถจัดแนวข้อความอ้างอิงได้</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ ข้อความอ้างอิงยังคงเหมือนเดิม</translation>
+    </message>
 </context>
 </TS>

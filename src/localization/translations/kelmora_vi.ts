@@ -975,5 +975,45 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
         <source>Uncertain segment starts: %@</source>
         <translation>Điểm bắt đầu đoạn chưa chắc chắn: %@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>&amp;Căn chỉnh lại…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>Căn chỉnh văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora có thể đặt từng câu của “%@” lên bản ghi âm. Bài học bằng ngôn ngữ nào?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Ngôn ngữ:</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Căn chỉnh</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>Không căn chỉnh</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>Đang đặt các câu lên bản ghi âm…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>Đã căn chỉnh %d câu, %d câu không chắc chắn</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>Không thể căn chỉnh văn bản tham chiếu</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ Văn bản tham chiếu vẫn giữ nguyên.</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,45 @@ If you have any questions, email me: support@kelmora.app.</source>
         <source>Uncertain segment starts: %@</source>
         <translation>不确定的分段起点：%@</translation>
     </message>
+    <message>
+        <source>&amp;Align Again…</source>
+        <translation>重新对齐(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Align Reference Text</source>
+        <translation>对齐参考文本</translation>
+    </message>
+    <message>
+        <source>Kelmora can place each sentence of “%@” on the recording. Which language is the lesson in?</source>
+        <translation>Kelmora 可以把“%@”的每个句子放到录音上。这节课是什么语言?</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>语言(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>对齐</translation>
+    </message>
+    <message>
+        <source>Don’t Align</source>
+        <translation>不对齐</translation>
+    </message>
+    <message>
+        <source>Placing the sentences on the recording…</source>
+        <translation>正在把句子放到录音上…</translation>
+    </message>
+    <message>
+        <source>Aligned %d sentences, %d uncertain</source>
+        <translation>已对齐 %d 个句子,%d 个不确定</translation>
+    </message>
+    <message>
+        <source>The reference text could not be aligned</source>
+        <translation>无法对齐参考文本</translation>
+    </message>
+    <message>
+        <source>%@ The reference text stays as it was.</source>
+        <translation>%@ 参考文本保持不变。</translation>
+    </message>
 </context>
 </TS>
