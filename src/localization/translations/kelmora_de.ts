@@ -977,7 +977,7 @@ Bei Fragen schreiben Sie mir eine E-Mail: support@kelmora.app.</translation>
     </message>
     <message>
         <source>&amp;Align Again…</source>
-        <translation>&amp;Erneut ausrichten…</translation>
+        <translation>Erneut a&amp;usrichten…</translation>
     </message>
     <message>
         <source>Align Reference Text</source>

@@ -977,7 +977,7 @@ Pour toute question, écrivez-moi à : support@kelmora.app.</translation>
     </message>
     <message>
         <source>&amp;Align Again…</source>
-        <translation>&amp;Aligner à nouveau…</translation>
+        <translation>A&amp;ligner à nouveau…</translation>
     </message>
     <message>
         <source>Align Reference Text</source>

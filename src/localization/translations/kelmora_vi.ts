@@ -977,7 +977,7 @@ Nếu có bất kỳ câu hỏi nào, hãy gửi email cho tôi: support@kelmora
     </message>
     <message>
         <source>&amp;Align Again…</source>
-        <translation>&amp;Căn chỉnh lại…</translation>
+        <translation>Căn chỉnh lạ&amp;i…</translation>
     </message>
     <message>
         <source>Align Reference Text</source>
