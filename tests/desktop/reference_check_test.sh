@@ -43,6 +43,7 @@ echo "attached $(basename "$reference") through the File menu"
 # title, gone once they are placed.
 question="$(window_named "Align Reference Text")" || fail "no language question for a plain text"
 xdotool windowactivate --sync "$question"
+screenshot align-question "$question"
 xdotool key Return
 gone "Align Reference Text" || fail "the alignment did not end"
 grep -q "Aligned 5 sentences" "$work/kelmora.log" || fail "the five sentences were not aligned"
