@@ -48,17 +48,25 @@ export XDG_RUNTIME_DIR="$work/xdg"
 mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
 unset WAYLAND_DISPLAY
 
-# The X server, on the first free display number.
+# The X server, on the first free display number. Without -noreset it resets
+# whenever its last client leaves, and a client arriving then can be refused:
+# the probe below leaving, openbox or Kelmora arriving.
 exec 5> "$work/display"
-Xvfb -displayfd 5 -screen 0 1280x900x24 -nolisten tcp > "$work/xvfb.log" 2>&1 &
-pids+=($!)
+Xvfb -displayfd 5 -noreset -screen 0 1280x900x24 -nolisten tcp > "$work/xvfb.log" 2>&1 &
+xvfb=$!
+pids+=($xvfb)
 for _ in $(seq 50); do [ -s "$work/display" ] && break; sleep 0.1; done
 [ -s "$work/display" ] || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
 export DISPLAY=":$(head -n1 "$work/display")"
 # A window that cannot reach the server fails to load Qt's xcb plugin and
 # aborts; a plain client gets in first, so that a failure says where it was.
-for _ in $(seq 50); do xdotool getdisplaygeometry > /dev/null 2>&1 && break; sleep 0.1; done
-xdotool getdisplaygeometry > /dev/null 2>&1 || fail "no client reaches the X server on $DISPLAY"
+reached=""
+for _ in $(seq 50); do
+  xdotool getdisplaygeometry > /dev/null 2>&1 && { reached=1; break; }
+  sleep 0.1
+done
+kill -0 "$xvfb" 2>/dev/null || fail "Xvfb on $DISPLAY ended: $(cat "$work/xvfb.log")"
+[ -n "$reached" ] || fail "no client reaches the X server on $DISPLAY: $(cat "$work/xvfb.log")"
 
 # The sound server with one null sink; a silent stream keeps it awake, and the
 # sink's monitor is recorded into $work/capture.raw (48 kHz mono s16).
