@@ -21,6 +21,15 @@ class AudioRenderSource
 public:
     virtual ~AudioRenderSource() = default;
     virtual qsizetype render(float* out, qsizetype frames) noexcept = 0;
+    // True once render() has come to sound that should not wait behind what
+    // the device already holds (a new rate): it then renders silence until
+    // resumeInFreshStream(). An output that starts fresh streams drops what
+    // it holds and asks for the new sound in a new stream.
+    virtual bool holdsForFreshStream() const noexcept { return false; }
+    // The next render() is for the new stream. When it gives no sound (the
+    // newest sound is not ready yet, or playing stopped), the switch is
+    // given up: the old stream goes on, and render() holds again later.
+    virtual void resumeInFreshStream() noexcept {}
 };
 
 // A sound device. Once started it keeps pulling frames from the source until
@@ -40,6 +49,8 @@ public:
     // Drops what the device was given and has not played yet, so that a pause
     // is heard at once; the frames dropped count as heard from then on.
     virtual void discardPending() {}
+    // Whether it answers a source's hold for a fresh stream.
+    virtual bool startsFreshStreams() const { return false; }
     // True when nothing is actually heard (no device).
     virtual bool isSilent() const = 0;
     virtual QString description() const = 0;

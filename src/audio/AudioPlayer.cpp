@@ -16,6 +16,11 @@ namespace {
 // stall of the decode thread that long goes unheard), so that after a seek or
 // a rate change there is always room for the new audio at once.
 constexpr qsizetype kRingFrames = 65536;
+// A rate change while playing is heard in a fresh device stream: the new
+// rate's first frames come from where the ear will be when the old stream is
+// let go, about this long after the change (the new frames made, the old
+// stream's next read, and the new stream's first).
+constexpr double kFreshLead = 0.05;
 } // namespace
 
 std::unique_ptr<AudioPlayer>
@@ -141,7 +146,11 @@ double AudioPlayer::currentTime() const
     // The device hears the frames it took in order: what it has yet to hear
     // of those up to the last one handed is still ahead of the ear.
     const double ahead = std::max(through - m_output->framesHeard(), 0.0);
-    const double heard = handed.position - ahead * static_cast<double>(handed.step);
+    double heard = handed.position - ahead * static_cast<double>(handed.step);
+    // Until the fresh stream is heard, the ear goes no further than where it
+    // starts: the old stream it leaves is dropped short of its end.
+    if (m_freshSeek != 0 && handed.seek < m_freshSeek)
+        heard = std::min(heard, m_freshFrom);
     return std::max(heard, m_floor);
 }
 
@@ -158,6 +167,7 @@ void AudioPlayer::setCurrentTime(double seconds, double end)
     m_target = target;
     m_spanEnd = end >= 0.0 ? std::max(end, target) : -1.0;
     m_spanFresh = m_spanEnd >= 0.0;
+    m_freshSeek = 0;
     ++m_seekNumber;
     m_oldestSeek.store(m_seekNumber, std::memory_order_relaxed);
     m_wantedSeek.store(m_seekNumber, std::memory_order_release);
@@ -204,14 +214,28 @@ void AudioPlayer::applyRate()
     if (rate == m_appliedRate)
         return;
     // The change gets a seek number of its own. While playing, the sound goes
-    // on: the device plays out the frames it is about to take at the old rate
-    // while the decode thread makes the new ones from where they stop.
-    // Otherwise it starts from the frame the device took last, or from where
+    // on: the old rate plays on while the decode thread makes the new one.
+    // Paused, it starts from the frame the device took last, or from where
     // the last move asked for if it took none.
     m_floor = currentTime();
+    const double oldRate = m_appliedRate;
     ++m_seekNumber;
     m_appliedRate = rate;
     m_producer->requestRate(rate);
+    // Heard at once: the new rate starts from where the ear will be, in a new
+    // device stream, and what the device holds of the old one is dropped.
+    // Near the end of a span the old rate finishes it instead, and an output
+    // without fresh streams goes on from where its old frames are cut.
+    const double from = m_floor + kFreshLead * oldRate;
+    if (m_playing && m_output->startsFreshStreams() && (m_spanEnd < 0.0 || from < m_spanEnd) &&
+        from < m_duration) {
+        m_freshSeek = m_seekNumber;
+        m_freshFrom = from;
+        m_wantedSeek.store(m_seekNumber, std::memory_order_release);
+        m_producer->requestFresh(from, m_seekNumber, m_spanEnd);
+        return;
+    }
+    m_freshSeek = 0;
     if (m_playing) {
         m_wantedSeek.store(m_seekNumber, std::memory_order_release);
         m_producer->requestContinue(m_seekNumber, m_spanEnd);
@@ -240,6 +264,16 @@ void AudioPlayer::onReachedEnd(uint32_t seek)
     emit didFinishPlaying(true);
 }
 
+bool AudioPlayer::holdsForFreshStream() const noexcept
+{
+    return m_holding.load(std::memory_order_acquire);
+}
+
+void AudioPlayer::resumeInFreshStream() noexcept
+{
+    m_resumed.store(true, std::memory_order_release);
+}
+
 qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
 {
     const auto channels = static_cast<size_t>(m_format.channels);
@@ -247,8 +281,16 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
     if (m_audible.load(std::memory_order_acquire)) {
         FrameTag last;
         const uint32_t wanted = m_wantedSeek.load(std::memory_order_acquire);
-        copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
-                             m_oldestSeek.load(std::memory_order_relaxed), wanted, &last);
+        // At a fresh cut nothing more goes to the old stream: silence until
+        // the new one asks.
+        const bool resumed = m_resumed.exchange(false, std::memory_order_acq_rel);
+        bool atFresh = false;
+        if (!m_holding.load(std::memory_order_relaxed) || resumed) {
+            copied = m_ring.read(out, frames, m_volume.load(std::memory_order_relaxed),
+                                 m_oldestSeek.load(std::memory_order_relaxed), wanted, &last,
+                                 resumed, &atFresh);
+            m_holding.store(atFresh, std::memory_order_release);
+        }
         if (copied > 0)
             m_handed.store(last, double(m_deviceFrames + copied));
         // A gap inside the sound: the ring ran dry after the first frame and
@@ -260,6 +302,10 @@ qsizetype AudioPlayer::render(float* out, qsizetype frames) noexcept
             m_handedSeek = last.seek;
         m_ranDry = copied < frames && m_handedSeek == wanted;
     } else {
+        // A switch to a fresh stream under way is given up; play() comes
+        // back to the fresh cut and starts it again.
+        m_resumed.store(false, std::memory_order_relaxed);
+        m_holding.store(false, std::memory_order_relaxed);
         m_ring.skipStale();
     }
     std::fill(out + static_cast<size_t>(copied) * channels,

@@ -94,6 +94,8 @@ private:
     AudioPlayer(const QString& path, std::unique_ptr<AudioDecoder> decoder,
                 std::unique_ptr<AudioOutput> output);
     qsizetype render(float* out, qsizetype frames) noexcept override;
+    bool holdsForFreshStream() const noexcept override;
+    void resumeInFreshStream() noexcept override;
     void applyRate();
     bool handsLatestSound(const FrameTag& handed) const;
     void onReachedEnd(uint32_t seek);
@@ -117,6 +119,11 @@ private:
     double m_spanEnd = -1.0;  // where the current span stops, or -1
     bool m_spanFresh = false; // set by setCurrentTime(seconds, end), taken by play()
     double m_floor = 0.0;     // currentTime() never reports less until the device moves on
+    // A rate change heard in a fresh stream: its seek number (0 when none is
+    // on its way) and where its sound starts, which the ear does not pass
+    // before it is heard.
+    uint32_t m_freshSeek = 0;
+    double m_freshFrom = 0.0;
 
     // Read by the device callback.
     std::atomic<bool> m_audible{false};
@@ -127,6 +134,8 @@ private:
     std::atomic<int> m_shortReads{0};
     uint32_t m_handedSeek = 0; // device callback only
     bool m_ranDry = false;     // device callback only
+    std::atomic<bool> m_holding{false}; // at a fresh cut, waiting for the new stream
+    std::atomic<bool> m_resumed{false}; // the new stream asked for it
     uint64_t m_deviceFrames = 0; // device callback only: every frame it took
     std::atomic<float> m_volume{1.0f};
 };

@@ -49,6 +49,7 @@ void AudioRingBuffer::flush(qsizetype prime)
     m_primeFrames.store(static_cast<uint64_t>(std::max<qsizetype>(prime, 0)),
                         std::memory_order_relaxed);
     m_endIndex.store(0, std::memory_order_relaxed);
+    m_cutPrime.store(0, std::memory_order_relaxed);
     m_flushIndex.store(m_write.load(std::memory_order_relaxed), std::memory_order_release);
 }
 
@@ -72,9 +73,24 @@ double AudioRingBuffer::cut(qsizetype lead, double writtenEnd)
         at = std::min(at, start < from ? from : to);
     at = std::min(at, write);
     const double position = at < write ? m_tags[at & m_mask].position : writtenEnd;
+    m_cutPrime.store(0, std::memory_order_relaxed);
     m_cutFrom.store(at, std::memory_order_relaxed);
     m_cutTo.store(write, std::memory_order_release);
     return position;
+}
+
+void AudioRingBuffer::freshCut(qsizetype prime)
+{
+    // From the consumer's place on, the old frames go on only until the new
+    // ones are ready: the device stream holding them is then let go.
+    const uint64_t write = m_write.load(std::memory_order_relaxed);
+    const uint64_t start = std::max(m_read.load(std::memory_order_acquire),
+                                    m_flushIndex.load(std::memory_order_relaxed));
+    m_cutPrime.store(static_cast<uint64_t>(std::max<qsizetype>(prime, 1)),
+                     std::memory_order_relaxed);
+    m_cutFrom.store(std::min(start, write), std::memory_order_relaxed);
+    m_freshCuts.fetch_add(1, std::memory_order_relaxed);
+    m_cutTo.store(write, std::memory_order_release);
 }
 
 void AudioRingBuffer::skipStale() noexcept
@@ -85,7 +101,8 @@ void AudioRingBuffer::skipStale() noexcept
 }
 
 qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t oldest,
-                                uint32_t seek, FrameTag* last) noexcept
+                                uint32_t seek, FrameTag* last, bool crossFresh,
+                                bool* atFresh) noexcept
 {
     // The write index first: a flush or a cut is published before the frames
     // that follow it, so seeing those frames guarantees seeing it.
@@ -93,6 +110,8 @@ qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t ol
     const uint64_t flushIndex = m_flushIndex.load(std::memory_order_acquire);
     const uint64_t to = m_cutTo.load(std::memory_order_acquire);
     const uint64_t from = m_cutFrom.load(std::memory_order_relaxed);
+    const uint64_t prime = m_cutPrime.load(std::memory_order_relaxed);
+    const uint64_t freshCuts = m_freshCuts.load(std::memory_order_relaxed);
     uint64_t index = std::max(m_read.load(std::memory_order_relaxed), flushIndex);
     // One past the frame where the present sound ends, 0 while it goes on.
     const uint64_t end = m_endIndex.load(std::memory_order_acquire);
@@ -107,12 +126,31 @@ qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t ol
             // Enough of the new frames to finish this read, or all there will
             // be: the sound does not switch over only to run dry at once.
             const bool arrived =
-                write - to >= static_cast<uint64_t>(n - count) || end > to + 1;
+                write - to >= std::max(static_cast<uint64_t>(n - count), prime) || end > to + 1;
             if (arrived && index >= from) {
+                if (prime > 0 && !crossFresh) {
+                    if (atFresh)
+                        *atFresh = true;
+                    break;
+                }
                 index = to;
+                m_freshCrossed = freshCuts;
                 continue;
             }
+            // A fresh stream has nothing to play before the fresh frames.
+            if (prime > 0 && crossFresh && index >= from)
+                break;
             limit = arrived ? from : to;
+        } else if (index == to && prime > 0 && m_freshCrossed != freshCuts) {
+            // The old frames ran out before the fresh ones were ready: they
+            // wait for their own stream rather than follow in this one.
+            if (crossFresh && write - to >= prime) {
+                m_freshCrossed = freshCuts;
+            } else {
+                if (atFresh && write - to >= prime)
+                    *atFresh = true;
+                break;
+            }
         }
         // Frames of a seek older than `oldest` are stale; one newer than
         // `seek` was asked for after this read began and waits for the next.

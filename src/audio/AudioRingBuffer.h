@@ -33,6 +33,11 @@ struct FrameTag
 // frames already written up to the cut's start, and skips from there to the
 // frames written after the cut only once some have arrived. The sound goes on
 // while the producer makes the new ones.
+//
+// A fresh cut is a cut whose new frames start a new stream at the device: the
+// consumer goes on with the old frames until `prime` new ones are written,
+// then its read stops short there, and it crosses over only when it asks to
+// (from the device's new stream).
 class AudioRingBuffer
 {
 public:
@@ -61,6 +66,9 @@ public:
     // written after the cut should start from: that of the first frame cut,
     // or `writtenEnd` (where the last written frame ends) when none is.
     double cut(qsizetype lead, double writtenEnd);
+    // A fresh cut at the consumer's next frame; the new frames are handed out
+    // once `prime` of them are written (or their end is).
+    void freshCut(qsizetype prime);
     uint64_t writeIndex() const { return m_write.load(std::memory_order_relaxed); }
     uint64_t readIndex() const { return m_read.load(std::memory_order_acquire); }
 
@@ -69,9 +77,12 @@ public:
     // queued before the newest plain seek must not be heard once it is asked
     // for, while a rate change's older frames may bridge), follows a cut, and
     // copies up to n frames, scaled by gain, into out. Returns the number
-    // copied; *last gets the tag of the last one copied.
+    // copied; *last gets the tag of the last one copied. A read for a fresh
+    // stream (`crossFresh`) crosses a fresh cut whose frames are ready and
+    // copies nothing at one whose frames are not; any other read stops at a
+    // ready fresh cut and sets *atFresh.
     qsizetype read(float* out, qsizetype n, float gain, uint32_t oldest, uint32_t seek,
-                   FrameTag* last) noexcept;
+                   FrameTag* last, bool crossFresh = false, bool* atFresh = nullptr) noexcept;
     // Applies a pending flush without reading (used while paused).
     void skipStale() noexcept;
 
@@ -90,4 +101,9 @@ private:
     // on exist. Stored from first, to last.
     std::atomic<uint64_t> m_cutFrom{0};
     std::atomic<uint64_t> m_cutTo{0};
+    std::atomic<uint64_t> m_cutPrime{0}; // more than 0 for a fresh cut
+    // Fresh cuts made, and the last one the consumer crossed: until it has,
+    // no other read goes past the cut into the fresh frames.
+    std::atomic<uint64_t> m_freshCuts{0};
+    uint64_t m_freshCrossed = 0; // consumer only
 };

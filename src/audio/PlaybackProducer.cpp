@@ -29,6 +29,10 @@ constexpr double kCutLead = 0.025;
 // gets any: under load the first frames otherwise arrive faster than the
 // ones that follow them.
 constexpr double kPrime = 0.1;
+// How much of a fresh stream's sound is made before the old stream is let
+// go: a new device stream takes a buffer's worth (0.2 s) at once, and a gap
+// inside it would be heard.
+constexpr double kFreshPrime = 0.25;
 // A buffer dated this much before the frames counted so far means the file's
 // time stamps run back; smaller differences are codecs' rounding.
 constexpr double kRunBack = 0.1;
@@ -74,6 +78,7 @@ void PlaybackProducer::requestSeek(double seconds, uint32_t seek, double end)
     m_seekTarget.store(seconds, std::memory_order_relaxed);
     m_seekEnd.store(end, std::memory_order_relaxed);
     m_seekOnFromSound.store(false, std::memory_order_relaxed);
+    m_seekFresh.store(false, std::memory_order_relaxed);
     m_plainSeek.store(seek, std::memory_order_relaxed);
     m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
     wake();
@@ -83,6 +88,17 @@ void PlaybackProducer::requestContinue(uint32_t seek, double end)
 {
     m_seekEnd.store(end, std::memory_order_relaxed);
     m_seekOnFromSound.store(true, std::memory_order_relaxed);
+    m_seekFresh.store(false, std::memory_order_relaxed);
+    m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
+    wake();
+}
+
+void PlaybackProducer::requestFresh(double seconds, uint32_t seek, double end)
+{
+    m_seekTarget.store(seconds, std::memory_order_relaxed);
+    m_seekEnd.store(end, std::memory_order_relaxed);
+    m_seekOnFromSound.store(false, std::memory_order_relaxed);
+    m_seekFresh.store(true, std::memory_order_relaxed);
     m_seekRequest.store((uint64_t(seek) << 1) | 1u, std::memory_order_release);
     wake();
 }
@@ -170,17 +186,25 @@ void PlaybackProducer::readMailbox()
         m_rate = m_rateRequest.load(std::memory_order_acquire);
         // A seek replaced by a later request before it was taken still moves
         // the sound: the later one then starts from the seek's target.
-        const bool onFromSound = m_seekOnFromSound.load(std::memory_order_relaxed) &&
-                                 m_plainSeek.load(std::memory_order_relaxed) <= m_seek;
+        Bridge bridge = Bridge::None;
+        if (m_plainSeek.load(std::memory_order_relaxed) <= m_seek) {
+            if (m_seekOnFromSound.load(std::memory_order_relaxed))
+                bridge = Bridge::OnFromSound;
+            else if (m_seekFresh.load(std::memory_order_relaxed))
+                bridge = Bridge::Fresh;
+        }
         seekTo(m_seekTarget.load(std::memory_order_relaxed), static_cast<uint32_t>(request >> 1),
-               m_seekEnd.load(std::memory_order_relaxed), onFromSound);
+               m_seekEnd.load(std::memory_order_relaxed), bridge);
     }
 }
 
-void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end, bool onFromSound)
+void PlaybackProducer::seekTo(double seconds, uint32_t seek, double end, Bridge bridge)
 {
-    if (onFromSound) {
+    if (bridge == Bridge::OnFromSound) {
         seconds = m_ring.cut(static_cast<qsizetype>(kCutLead * m_sampleRate), m_writtenEnd);
+    } else if (bridge == Bridge::Fresh) {
+        m_ring.freshCut(std::min(m_fillTarget, static_cast<qsizetype>(kFreshPrime * m_sampleRate)));
+        m_writtenEnd = std::max(seconds, 0.0);
     } else {
         m_ring.flush(std::min(m_fillTarget, static_cast<qsizetype>(kPrime * m_sampleRate)));
         m_writtenEnd = std::max(seconds, 0.0);

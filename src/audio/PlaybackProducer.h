@@ -46,7 +46,10 @@ public:
     // what the device is about to take plays out while the new frames are
     // made, and they start where it stops (a rate change while playing).
     void requestContinue(uint32_t seek, double end);
-    // Takes effect at the next requestSeek() or requestContinue().
+    // A seek whose sound starts a fresh stream at the device: the old frames
+    // play on until enough of the new ones are made to fill it.
+    void requestFresh(double seconds, uint32_t seek, double end);
+    // Takes effect at the next requestSeek(), requestContinue() or requestFresh().
     void requestRate(float rate);
     // Only changes how eagerly the thread polls the ring.
     void setPlaying(bool playing);
@@ -65,7 +68,13 @@ private:
     void run();
     void wake();
     void readMailbox();
-    void seekTo(double seconds, uint32_t seek, double end, bool onFromSound);
+    enum class Bridge
+    {
+        None,     // a plain seek: what was written is stale
+        OnFromSound, // the new frames go on from where the old are cut
+        Fresh     // the old frames play on until the new fill a new stream
+    };
+    void seekTo(double seconds, uint32_t seek, double end, Bridge bridge);
     void buildIndex();
     bool produce();
     bool produceDirect(qsizetype room);
@@ -91,6 +100,7 @@ private:
     std::atomic<double> m_seekTarget{0.0};
     std::atomic<double> m_seekEnd{-1.0};
     std::atomic<bool> m_seekOnFromSound{false};
+    std::atomic<bool> m_seekFresh{false};
     std::atomic<uint32_t> m_plainSeek{0}; // the newest request that was a seek
     std::atomic<float> m_rateRequest{1.0f};
     std::atomic<bool> m_playing{false};

@@ -12,20 +12,22 @@
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
+#include <functional>
 
 namespace {
 
-// The sink's data source: every read is answered in full by the player's
-// render() (silence when it has nothing), so the sink never goes idle.
+// The sink's data source: every read is answered in full (silence when the
+// player has nothing), so the sink never goes idle.
 class RenderDevice : public QIODevice
 {
 public:
-    RenderDevice(AudioRenderSource* source, int channels, std::atomic<qint64>* taken,
-                 QObject* parent)
-        : QIODevice(parent), m_source(source), m_taken(taken),
+    using Reader = std::function<void(float* out, qint64 frames)>;
+    RenderDevice(int stream, Reader reader, int channels, QObject* parent)
+        : QIODevice(parent), m_stream(stream), m_reader(std::move(reader)),
           m_bytesPerFrame(channels * int(sizeof(float)))
     {
     }
+    int stream() const { return m_stream; }
     bool isSequential() const override { return true; }
     qint64 bytesAvailable() const override { return 1 << 20; }
 
@@ -35,15 +37,14 @@ protected:
         const qint64 frames = maxlen / m_bytesPerFrame;
         if (frames <= 0)
             return 0;
-        m_source->render(reinterpret_cast<float*>(data), frames);
-        m_taken->fetch_add(frames, std::memory_order_release);
+        m_reader(reinterpret_cast<float*>(data), frames);
         return frames * m_bytesPerFrame;
     }
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:
-    AudioRenderSource* m_source;
-    std::atomic<qint64>* m_taken;
+    int m_stream;
+    Reader m_reader;
     int m_bytesPerFrame;
 };
 
@@ -125,10 +126,117 @@ void QtAudioOutput::discardPending()
         m_host, [this] { discardOnThread(); }, Qt::BlockingQueuedConnection);
 }
 
+void QtAudioOutput::readOnThread(int stream, float* out, qint64 frames)
+{
+    if (stream != m_liveStream) {
+        // The stream being let go: what it still gets is never heard.
+        std::fill(out, out + frames * m_channels, 0.0f);
+        return;
+    }
+    const bool first = m_oldSink && !m_freshBegun;
+    if (first) {
+        m_freshBegun = true;
+        m_takenAtFresh = m_taken.load(std::memory_order_relaxed);
+        m_source->resumeInFreshStream();
+    }
+    const qsizetype sound = m_source->render(out, frames);
+    m_taken.fetch_add(frames, std::memory_order_release);
+    if (first) {
+        // With its first sound, the new stream takes over and the old one
+        // goes; without, the switch is given up and the old one plays on.
+        if (sound > 0)
+            QMetaObject::invokeMethod(m_host, [this] { retireOnThread(); }, Qt::QueuedConnection);
+        else
+            QMetaObject::invokeMethod(m_host, [this] { abandonFreshOnThread(); },
+                                      Qt::QueuedConnection);
+    }
+    if (m_source->holdsForFreshStream() && !m_freshPosted) {
+        m_freshPosted = true;
+        QMetaObject::invokeMethod(m_host, [this] { beginFreshOnThread(); }, Qt::QueuedConnection);
+    }
+}
+
+void QtAudioOutput::beginFreshOnThread()
+{
+    m_freshPosted = false;
+    // A pause or a move since it was asked has let go of the hold.
+    if (!m_sink || !m_source->holdsForFreshStream())
+        return;
+    // A switch still under way: its old stream goes at once.
+    retireOnThread();
+    // The old sink plays on from what it holds while the new one opens and
+    // takes its first sound; only then is the old one let go, so the gap
+    // between the two is the server's, not the opening's.
+    m_oldSink = m_sink;
+    m_oldDevice = m_device;
+    m_oldBase = m_streamBase;
+    m_freshBegun = false;
+    m_device = makeDevice();
+    const QObjectList before = m_host->children();
+    makeSink();
+    m_sink->start(m_device);
+    askForDataNow(before);
+}
+
+void QtAudioOutput::retireOnThread()
+{
+    if (!m_oldSink)
+        return;
+    // Stopping a sink disconnects its stream: the server drops what it held,
+    // and those frames count as heard from now on.
+    m_oldSink->stop();
+    delete m_oldSink;
+    m_oldSink = nullptr;
+    delete m_oldDevice;
+    m_oldDevice = nullptr;
+    const qint64 base = m_freshBegun ? m_takenAtFresh : m_taken.load(std::memory_order_acquire);
+    m_streamBase = base;
+    m_origin.store(steadySeconds() - double(base) / m_sampleRate, std::memory_order_release);
+}
+
+void QtAudioOutput::abandonFreshOnThread()
+{
+    if (!m_oldSink)
+        return;
+    // The new stream's one read never sounds: counted as heard at once.
+    const qint64 unheard = m_taken.load(std::memory_order_acquire) - m_takenAtFresh;
+    m_sink->stop();
+    delete m_sink;
+    delete m_device;
+    m_sink = m_oldSink;
+    m_device = m_oldDevice;
+    m_streamBase = m_oldBase + unheard;
+    m_oldSink = nullptr;
+    m_oldDevice = nullptr;
+    m_liveStream = static_cast<RenderDevice*>(m_device)->stream();
+}
+
+QIODevice* QtAudioOutput::makeDevice()
+{
+    const int stream = ++m_liveStream;
+    auto* device = new RenderDevice(
+        stream, [this, stream](float* out, qint64 frames) { readOnThread(stream, out, frames); },
+        m_channels, m_host);
+    device->open(QIODevice::ReadOnly);
+    return device;
+}
+
+void QtAudioOutput::askForDataNow(const QObjectList& before)
+{
+    // Qt 6.4's pulse sink first asks for data one period (20 ms) after it
+    // starts; a stream switch asks at once, through the sink's own slot,
+    // when it has one.
+    for (QObject* child : m_host->children()) {
+        if (child->metaObject()->indexOfMethod("userFeed()") >= 0 && !before.contains(child))
+            QMetaObject::invokeMethod(child, "userFeed", Qt::QueuedConnection);
+    }
+}
+
 void QtAudioOutput::discardOnThread()
 {
     if (!m_sink)
         return;
+    retireOnThread();
     // QAudioSink cannot flush, but stopping it disconnects its stream, and the
     // server drops whatever that stream still held. A new sink then opens a
     // new stream at once (the server is already running, so it takes one
@@ -167,8 +275,9 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
     m_origin.store(-1.0, std::memory_order_relaxed);
     m_streamBase = 0;
     m_sampleRate = format.sampleRate;
-    m_device = new RenderDevice(source, format.channels, &m_taken, m_host);
-    m_device->open(QIODevice::ReadOnly);
+    m_source = source;
+    m_channels = format.channels;
+    m_device = makeDevice();
     m_sink->start(m_device);
     if (m_sink->error() != QAudio::NoError || m_sink->state() == QAudio::StoppedState) {
         m_error = describeError(m_sink->error());
@@ -188,9 +297,12 @@ void QtAudioOutput::openOnThread(const OutputFormat& format, AudioRenderSource* 
     QObject::connect(m_playedTimer, &QTimer::timeout, m_host, [this] {
         if (!m_sink)
             return;
+        // While a new stream opens, the old one still plays and keeps time.
+        QAudioSink* sink = m_oldSink ? m_oldSink : m_sink;
+        const qint64 base = m_oldSink ? m_oldBase : m_streamBase;
         const double taken = double(m_taken.load(std::memory_order_acquire));
-        const double played = std::min(
-            double(m_streamBase) + double(m_sink->processedUSecs()) * m_sampleRate / 1e6, taken);
+        const double played =
+            std::min(double(base) + double(sink->processedUSecs()) * m_sampleRate / 1e6, taken);
         m_origin.store(steadySeconds() - played / m_sampleRate, std::memory_order_release);
     });
     m_playedTimer->start(20);
@@ -218,6 +330,7 @@ void QtAudioOutput::closeOnThread()
 {
     delete m_playedTimer;
     m_playedTimer = nullptr;
+    retireOnThread();
     if (m_sink) {
         m_sink->stop();
         delete m_sink;

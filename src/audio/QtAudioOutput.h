@@ -3,6 +3,7 @@
 
 #include "audio/AudioOutput.h"
 
+#include <QObject>
 #include <QThread>
 #include <atomic>
 #include <memory>
@@ -35,6 +36,7 @@ public:
     double framesHeard() const override;
     // A new stream in place of the old one: the server drops what it held.
     void discardPending() override;
+    bool startsFreshStreams() const override { return true; }
     bool isSilent() const override { return false; }
     QString description() const override { return m_description; }
     QString errorString() const override { return m_error; }
@@ -44,6 +46,13 @@ private:
     void closeOnThread();
     void discardOnThread();
     void makeSink();
+    QIODevice* makeDevice();
+    // The sink's reads, for the stream numbered `stream`.
+    void readOnThread(int stream, float* out, qint64 frames);
+    void beginFreshOnThread();
+    void retireOnThread();
+    void abandonFreshOnThread();
+    void askForDataNow(const QObjectList& before);
 
     QThread m_thread;
     QObject* m_host = nullptr; // lives on m_thread; owns the sink, device and timer
@@ -51,6 +60,17 @@ private:
     std::unique_ptr<QAudioDevice> m_audioDevice;
     std::unique_ptr<QAudioFormat> m_audioFormat;
     QIODevice* m_device = nullptr;
+    AudioRenderSource* m_source = nullptr;
+    int m_channels = 2;
+    // Sink thread only: the stream whose reads reach the source, and the
+    // one being let go after a switch to a fresh stream.
+    int m_liveStream = 0;
+    QAudioSink* m_oldSink = nullptr;
+    QIODevice* m_oldDevice = nullptr;
+    qint64 m_oldBase = 0;
+    bool m_freshPosted = false;  // a switch is asked for
+    bool m_freshBegun = false;   // the new stream has had its first read
+    qint64 m_takenAtFresh = 0;
     QTimer* m_playedTimer = nullptr;
     int m_bytesPerSecond = 0;
     // Frames the sink has taken from the source, and when (steady clock,
