@@ -12,10 +12,11 @@
 #include <algorithm>
 
 namespace {
-// About 1.5 s at 44.1 kHz; the decode thread fills at most 0.5 s of it (a
+// About 3 s at 44.1 kHz; the decode thread fills at most 0.5 s of it (a
 // stall of the decode thread that long goes unheard), so that after a seek or
-// a rate change there is always room for the new audio at once.
-constexpr qsizetype kRingFrames = 65536;
+// a rate change there is always room for the new audio at once, also after a
+// held key's rate changes have each left the start of a fresh stream behind.
+constexpr qsizetype kRingFrames = 131072;
 // A rate change while playing is heard in a fresh device stream: the new
 // rate's first frames come from where the ear will be when the old stream is
 // let go, about this long after the change (the new frames made, the old

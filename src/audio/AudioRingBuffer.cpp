@@ -93,6 +93,13 @@ void AudioRingBuffer::freshCut(qsizetype prime)
     m_cutTo.store(write, std::memory_order_release);
 }
 
+bool AudioRingBuffer::freshWaiting() const
+{
+    return m_cutPrime.load(std::memory_order_relaxed) > 0 &&
+           m_freshCrossed.load(std::memory_order_relaxed) !=
+               m_freshCuts.load(std::memory_order_relaxed);
+}
+
 void AudioRingBuffer::skipStale() noexcept
 {
     const uint64_t flushIndex = m_flushIndex.load(std::memory_order_acquire);
@@ -134,18 +141,18 @@ qsizetype AudioRingBuffer::read(float* out, qsizetype n, float gain, uint32_t ol
                     break;
                 }
                 index = to;
-                m_freshCrossed = freshCuts;
+                m_freshCrossed.store(freshCuts, std::memory_order_relaxed);
                 continue;
             }
             // A fresh stream has nothing to play before the fresh frames.
             if (prime > 0 && crossFresh && index >= from)
                 break;
             limit = arrived ? from : to;
-        } else if (index == to && prime > 0 && m_freshCrossed != freshCuts) {
+        } else if (index == to && prime > 0 && m_freshCrossed.load(std::memory_order_relaxed) != freshCuts) {
             // The old frames ran out before the fresh ones were ready: they
             // wait for their own stream rather than follow in this one.
             if (crossFresh && write - to >= prime) {
-                m_freshCrossed = freshCuts;
+                m_freshCrossed.store(freshCuts, std::memory_order_relaxed);
             } else {
                 if (atFresh && write - to >= prime)
                     *atFresh = true;

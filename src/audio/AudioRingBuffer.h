@@ -70,6 +70,8 @@ public:
     // once `prime` of them are written (or their end is).
     void freshCut(qsizetype prime);
     uint64_t writeIndex() const { return m_write.load(std::memory_order_relaxed); }
+    // Whether the latest fresh cut's frames wait for the consumer to cross.
+    bool freshWaiting() const;
     uint64_t readIndex() const { return m_read.load(std::memory_order_acquire); }
 
     // ---- Consumer side ----
@@ -105,5 +107,5 @@ private:
     // Fresh cuts made, and the last one the consumer crossed: until it has,
     // no other read goes past the cut into the fresh frames.
     std::atomic<uint64_t> m_freshCuts{0};
-    uint64_t m_freshCrossed = 0; // consumer only
+    std::atomic<uint64_t> m_freshCrossed{0}; // written by the consumer
 };

@@ -254,7 +254,14 @@ bool PlaybackProducer::produce()
         }
         return false;
     }
-    const qsizetype room = std::min(m_ring.writableFrames(), m_fillTarget - m_ring.pendingFrames());
+    // Frames of a fresh cut not yet crossed may be overtaken by the next
+    // change and never heard, yet hold their room until the device has
+    // read past them: no more of them is made than the switch needs.
+    const qsizetype target =
+        m_ring.freshWaiting()
+            ? std::min(m_fillTarget, static_cast<qsizetype>(kFreshPrime * m_sampleRate))
+            : m_fillTarget;
+    const qsizetype room = std::min(m_ring.writableFrames(), target - m_ring.pendingFrames());
     if (room < kMinChunk)
         return false;
     return m_rate == 1.0f ? produceDirect(room) : produceStretched(room);

@@ -358,13 +358,14 @@ TEST_F(RealSound, RateChangesWhilePlayingAreHeardAtOnceAndTheSegmentEndsInPlace)
     plan.push_back({2400, 3.0f});
     engine->setRepeatMode(true);
 
-    // Where the sound of the rate asked at capture sample `asked` starts in
-    // the source, and how long, from there, it is heard at that rate.
+    // How long after capture sample `asked` the sound of `length` source
+    // seconds from `from` at 3.0x is heard, searched for within `within`
+    // seconds; *match says how surely it was found.
     const auto waitFor = [&](const std::vector<float>& capture, double asked, double from,
-                             double length, double* match) {
+                             double length, double within, double* match) {
         const std::vector<float> ref = playedSpan(path, decoded, from, length, 3.0f);
         const auto begin = size_t(std::clamp(asked, 0.0, double(capture.size())));
-        const size_t until = std::min(capture.size(), begin + size_t(0.6 * kCaptureRate));
+        const size_t until = std::min(capture.size(), begin + size_t(within * kCaptureRate));
         const Match found = locate({capture.begin() + qsizetype(begin),
                                     capture.begin() + qsizetype(until)}, ref);
         *match = found.coefficient;
@@ -423,9 +424,10 @@ TEST_F(RealSound, RateChangesWhilePlayingAreHeardAtOnceAndTheSegmentEndsInPlace)
         // The first change's rate plays for 200 ms; a third of a second of
         // the source is what it certainly plays of it.
         if (from.front() >= 0 && asked.front() >= 0)
-            take.firstWait = waitFor(capture, asked.front(), from.front(), 0.33, &take.firstMatch);
+            take.firstWait =
+                waitFor(capture, asked.front(), from.front(), 0.33, 0.6, &take.firstMatch);
         take.expected = (end - from.back()) / 3.0;
-        take.lastWait = waitFor(capture, asked.back(), from.back(), end - from.back(),
+        take.lastWait = waitFor(capture, asked.back(), from.back(), end - from.back(), 2.0,
                                 &take.lastMatch);
         size_t last = capture.size();
         while (last > 0 && capture[last - 1] == 0.0f)
