@@ -193,11 +193,20 @@ bool dontAlign()
         return false;
     QPointer<QWidget> window =
         question->parentWidget() ? question->parentWidget()->window() : nullptr;
+    QPointer<QDialog> asked(question);
     QTest::keyClick(question, Qt::Key_Escape);
-    if (!waitFor([] { return visibleQuestion() == nullptr; }))
+    // The question deletes itself once closed, and its window going takes the
+    // activation with it: only after that is the window given it back. A
+    // slow build (ThreadSanitizer) otherwise lost the focus mid-typing.
+    const bool gone = waitFor([&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return asked.isNull();
+    });
+    if (!gone)
         return false;
+    QApplication::processEvents();
     // Offscreen, no window manager gives the window back its activation.
     if (window)
         QApplication::setActiveWindow(window);
-    return true;
+    return waitFor([] { return QApplication::focusWidget() != nullptr; });
 }
